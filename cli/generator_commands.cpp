@@ -1,0 +1,60 @@
+#include <algorithm>
+#include <iostream>
+#include <map>
+
+#include "cli/cli_commands.h"
+#include "generators/catalogue.h"
+#include "generators/hub.h"
+
+namespace {
+std::string Trim(const std::string& s) {
+    const auto first = s.find_first_not_of(' ');
+    if (first == std::string::npos) return "";
+    const auto last = s.find_last_not_of(' ');
+    return s.substr(first, last - first + 1);
+}
+} // namespace
+
+int RunCatalogueCommand(const CliArguments& args) {
+    if (!args.empty()) {
+        std::cerr << "sumforge-cli catalogue: takes no arguments\n";
+        return kUsageError;
+    }
+    GeneratorHub hub;
+    hub.ReadCatalogue();
+    // Topics in the order of their ids, routines by subtopic inside each, as the wizard
+    // shows them.
+    std::vector<CatalogueEntry> entries;
+    for (const auto& line : hub.CatalogueList()) entries.push_back(ReadCatalogueEntry(line));
+    std::stable_sort(entries.begin(), entries.end(), [](const CatalogueEntry& a, const CatalogueEntry& b) {
+        return std::tie(a.TopicId, a.SubtopicId) < std::tie(b.TopicId, b.SubtopicId);
+    });
+    for (const auto& e : entries) {
+        if (e.Kind == "5") {
+            std::cout << e.TopicId << " " << Trim(e.TopicName) << "\n";
+        } else {
+            std::cout << "    " << e.moduleName << " " << e.RoutineId << "  subtopic " << e.SubtopicId << "  kind "
+                      << e.Kind << "  max " << e.MaxAmount << "  " << Trim(e.Title) << "\n";
+        }
+    }
+    return 0;
+}
+
+int RunGenerateCommand(const CliArguments& args) {
+    if (args.size() != 2) {
+        std::cerr << "sumforge-cli generate: expected MODULE CODE, for instance: generate KVOL_MATH_NRP "
+                     "0121234567050101\n";
+        return kUsageError;
+    }
+    if (!IsProblemCode(args[1])) {
+        std::cerr << "sumforge-cli generate: the problem code must be exactly 16 digits, not '" << args[1] << "'\n";
+        return kUsageError;
+    }
+    GeneratorHub hub;
+    std::string statement;
+    std::string solution;
+    hub.RunGenerator(args[0], args[1], statement, solution);
+    std::cout << "Statement: " << statement << "\n"
+              << "Solution: " << solution << "\n";
+    return 0;
+}

@@ -1,0 +1,38 @@
+#include <functional>
+#include <iostream>
+#include <map>
+
+#include "cli/cli_commands.h"
+
+namespace {
+void PrintUsage(std::ostream& out) {
+    out << "Usage: sumforge-cli COMMAND [ARGUMENTS]\n"
+           "\n"
+           "Commands:\n"
+           "  catalogue               list every generator by topic\n"
+           "  generate MODULE CODE    print the statement and solution markup of one problem code\n";
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::map<std::string, std::function<int(const CliArguments&)>> commands = {
+        {"catalogue", RunCatalogueCommand},
+        {"generate", RunGenerateCommand},
+    };
+    if (argc < 2) {
+        PrintUsage(std::cerr);
+        return kUsageError;
+    }
+    const std::string command = argv[1];
+    if (command == "help" || command == "--help" || command == "-h") {
+        PrintUsage(std::cout);
+        return 0;
+    }
+    const auto found = commands.find(command);
+    if (found == commands.end()) {
+        std::cerr << "sumforge-cli: unknown command '" << command << "'\n";
+        PrintUsage(std::cerr);
+        return kUsageError;
+    }
+    return found->second(CliArguments(argv + 2, argv + argc));
+}

@@ -1,0 +1,10 @@
+#include "generators/module_router.h"
+#include "generators/alg/alg_routines.h"
+
+// Matrices and linear systems.
+GeneratorModule MakeKvolMathAlg() {
+    return {"KVOL_MATH_ALG",
+            5,
+            {
+            }};
+}

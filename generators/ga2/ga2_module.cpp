@@ -1,0 +1,10 @@
+#include "generators/module_router.h"
+#include "generators/ga2/ga2_routines.h"
+
+// Plane analytical geometry.
+GeneratorModule MakeKvolMathGa2() {
+    return {"KVOL_MATH_GA2",
+            8,
+            {
+            }};
+}

@@ -1,0 +1,10 @@
+#include "generators/module_router.h"
+#include "generators/ga3/ga3_routines.h"
+
+// Space analytical geometry.
+GeneratorModule MakeKvolMathGa3() {
+    return {"KVOL_MATH_GA3",
+            8,
+            {
+            }};
+}

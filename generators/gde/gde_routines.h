@@ -1,0 +1,4 @@
+#pragma once
+#include "generators/generator_contract.h"
+
+// The routines of KVOL_MATH_GDE, by the number the router gives them.

@@ -1,0 +1,10 @@
+#include "generators/module_router.h"
+#include "generators/int/int_routines.h"
+
+// Integrals and areas.
+GeneratorModule MakeKvolMathInt() {
+    return {"KVOL_MATH_INT",
+            6,
+            {
+            }};
+}

@@ -1,0 +1,49 @@
+#include "generators/item_drill.h"
+
+#include <algorithm>
+
+#include "mathservices/arithmetic.h"
+
+namespace {
+const std::string kLetters = "abcdefghijklmnopqrstuvwxyz";
+
+const std::string& MarkOf(const ColumnMarks& marks, int i) {
+    return marks[static_cast<std::size_t>((i - 1) % static_cast<int>(marks.size()))];
+}
+
+bool EndsRow(const ColumnMarks& marks, int i, int n) { return i % static_cast<int>(marks.size()) == 0 || i == n; }
+} // namespace
+
+std::string ItemLetter(int i) { return kLetters.substr(static_cast<std::size_t>(i - 1), 1); }
+
+int DrillItemCount(const GeneratorWorkspace& ws, int maxAmount) {
+    const int limit = std::min(maxAmount, 26);
+    return std::clamp(static_cast<int>(ws.ItemCount), 1, limit);
+}
+
+ItemDrill::ItemDrill(GeneratorWorkspace& ws, ColumnMarks statementColumns, ColumnMarks solutionColumns,
+                     int maxAmount)
+    : ws_(ws), statementColumns_(std::move(statementColumns)), solutionColumns_(std::move(solutionColumns)),
+      count_(DrillItemCount(ws, maxAmount)) {}
+
+bool ItemDrill::IsRepeat(const std::string& statementText) const {
+    return std::find(items_.begin(), items_.end(), statementText) != items_.end();
+}
+
+void ItemDrill::AddItem(const std::string& statementText, const std::string& solutionText) {
+    items_.push_back(statementText);
+    const int i = static_cast<int>(items_.size());
+    ws_.Solution += MarkOf(solutionColumns_, i) + "&-I&+B" + ItemLetter(i) + ")&-B " + solutionText;
+    if (EndsRow(solutionColumns_, i, count_)) ws_.Solution += "&LF";
+}
+
+void ItemDrill::WriteStatement(const std::vector<std::string>& headLines) {
+    const double form = RandomInRange(ws_, 1, static_cast<double>(headLines.size()), 1, 1);
+    ws_.Statement += headLines[static_cast<std::size_t>(form) - 1];
+    const int n = static_cast<int>(items_.size());
+    for (int i = 1; i <= n; ++i) {
+        ws_.Statement += MarkOf(statementColumns_, i) + "&+B" + ItemLetter(i) + ")&-B&+I " + items_[i - 1] + "&-I";
+        if (EndsRow(statementColumns_, i, n)) ws_.Statement += "&LF";
+    }
+    ws_.Statement += "&LF";
+}

@@ -1,0 +1,49 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "generators/generator_contract.h"
+
+// The lettered items of a drill (kind "2"): the item count, the column marks, the
+// solution written item by item, the head line drawn after the loop, and the statement.
+
+// The left positions of the columns of a row, as "&SP=..:" marks.
+using ColumnMarks = std::vector<std::string>;
+
+inline const ColumnMarks kStatementColumns4 = {"&SP=5:", "&SP=29:", "&SP=53:", "&SP=76:"};
+inline const ColumnMarks kStatementColumns3 = {"&SP=5:", "&SP=29:", "&SP=53:"};
+inline const ColumnMarks kStatementColumns2 = {"&SP=5:", "&SP=43:"};
+inline const ColumnMarks kStatementColumns1 = {"&SP=5:"};
+inline const ColumnMarks kSolutionColumns4 = {"&SP=10:", "&SP=30:", "&SP=50:", "&SP=70:"};
+inline const ColumnMarks kSolutionColumns3 = {"&SP=10:", "&SP=40:", "&SP=70:"};
+inline const ColumnMarks kSolutionColumns2 = {"&SP=10:", "&SP=50:"};
+inline const ColumnMarks kSolutionColumns1 = {"&SP=10:"};
+
+// ItemCount clipped into 1 to maxAmount (26 letters at most).
+int DrillItemCount(const GeneratorWorkspace& ws, int maxAmount = 26);
+
+class ItemDrill {
+public:
+    ItemDrill(GeneratorWorkspace& ws, ColumnMarks statementColumns, ColumnMarks solutionColumns,
+              int maxAmount = 26);
+
+    int Count() const { return count_; }
+    // True when an earlier item of this problem has this very statement text.
+    bool IsRepeat(const std::string& statementText) const;
+    // Remembers the next item and appends its solution, with its column mark and letter.
+    void AddItem(const std::string& statementText, const std::string& solutionText);
+    // Draws the head line among the wordings (one range draw), then writes the items of
+    // the statement and the blank line after them.
+    void WriteStatement(const std::vector<std::string>& headLines);
+    const std::vector<std::string>& Items() const { return items_; }
+
+private:
+    GeneratorWorkspace& ws_;
+    ColumnMarks statementColumns_;
+    ColumnMarks solutionColumns_;
+    int count_;
+    std::vector<std::string> items_;
+};
+
+// The letter of item i, counted from 1.
+std::string ItemLetter(int i);

@@ -1,0 +1,10 @@
+#include "generators/module_router.h"
+#include "generators/lfd/lfd_routines.h"
+
+// Limits, functions and derivatives.
+GeneratorModule MakeKvolMathLfd() {
+    return {"KVOL_MATH_LFD",
+            79,
+            {
+            }};
+}

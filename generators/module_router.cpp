@@ -1,0 +1,75 @@
+#include "generators/module_router.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "generators/catalogue.h"
+
+GeneratorRoutine GeneratorModule::Find(int number) const {
+    for (const auto& entry : routines) {
+        if (entry.number == number) return entry.routine;
+    }
+    return nullptr;
+}
+
+namespace {
+std::string Upper(std::string s) {
+    std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return std::toupper(c); });
+    return s;
+}
+
+std::string NotFoundText(const GeneratorModule& module, const std::string& routineId) {
+    return "<ERROR IN MODULE " + module.name + ":. THE ROUTINE ID = " + routineId + " IS NOT FOUND>&LF";
+}
+
+std::string Describe(GeneratorWorkspace& ws, const GeneratorModule& module) {
+    std::string text;
+    std::vector<std::string> headers;
+    for (int number = 1; number <= module.greatestNumber; ++number) {
+        ws.Subject.clear();
+        if (GeneratorRoutine routine = module.Find(number)) routine(ws);
+        if (ws.Subject.empty()) continue;
+        NormaliseDescribeFields(ws, number);
+        const std::string header = TopicHeaderLine(ws);
+        const std::string key = Upper(header);
+        const bool seen = std::any_of(headers.begin(), headers.end(), [&](const std::string& h) { return h == key; });
+        if (!seen && static_cast<int>(headers.size()) < module.greatestNumber) {
+            text += header;
+            headers.push_back(key);
+        }
+        text += CatalogueLine(ws);
+    }
+    return module.name + ":" + text;
+}
+} // namespace
+
+std::string RunRouter(GeneratorWorkspace& ws, const GeneratorModule& module, const std::string& code,
+                      std::string& statement, std::string& solution, std::int16_t describeMode) {
+    ws.DescribeMode = describeMode;
+    if (describeMode != 0) return Describe(ws, module);
+
+    const ProblemCodeFields fields = ReadProblemCode(code);
+    ws.RoutineId = code.substr(0, std::min<std::size_t>(3, code.size()));
+    ws.VariantNumber = fields.VariantNumber;
+    ws.Seed = fields.Seed;
+    ws.ItemCount = fields.ItemCount;
+    ws.GroupSize = fields.GroupSize;
+    ws.GroupIndex = fields.GroupIndex;
+    ws.Statement.clear();
+    ws.Solution.clear();
+
+    // The seeding, with its four warm-up draws, is part of the stored format.
+    ws.stream.Draw(-1);
+    ws.stream.SeedStream(ws.Seed);
+    for (int i = 0; i < 4; ++i) ws.stream.Draw();
+
+    if (GeneratorRoutine routine = module.Find(fields.RoutineId)) {
+        routine(ws);
+    } else {
+        ws.Statement = NotFoundText(module, ws.RoutineId);
+        ws.Solution = "&LF";
+    }
+    statement = ws.Statement;
+    solution = ws.Solution;
+    return "";
+}

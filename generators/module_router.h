@@ -1,0 +1,42 @@
+#pragma once
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "generators/generator_contract.h"
+
+// A generator routine: reads DescribeMode first; in describe mode it fills the describe
+// fields and draws nothing, otherwise it writes Statement and Solution.
+using GeneratorRoutine = void (*)(GeneratorWorkspace&);
+
+struct RoutineEntry {
+    int number;
+    GeneratorRoutine routine;
+};
+
+// One module of generators: its name, the greatest number its describe loop visits, and
+// its routines by number.
+struct GeneratorModule {
+    std::string name;
+    int greatestNumber = 0;
+    std::vector<RoutineEntry> routines;
+
+    GeneratorRoutine Find(int number) const;
+};
+
+// The router every module has. In generate mode it seeds the stream from the code and
+// runs one routine; in describe mode it returns "NAME:" and the module's catalogue text.
+std::string RunRouter(GeneratorWorkspace& ws, const GeneratorModule& module, const std::string& code,
+                      std::string& statement, std::string& solution, std::int16_t describeMode);
+
+// The ten modules, each defined in its own folder.
+GeneratorModule MakeKvolMathAlg();
+GeneratorModule MakeKvolMathEcu();
+GeneratorModule MakeKvolMathGa2();
+GeneratorModule MakeKvolMathGa3();
+GeneratorModule MakeKvolMathGde();
+GeneratorModule MakeKvolMathInt();
+GeneratorModule MakeKvolMathLfd();
+GeneratorModule MakeKvolMathNrp();
+GeneratorModule MakeKvolMathPes();
+GeneratorModule MakeKvolMathTri();

@@ -1,0 +1,10 @@
+#include "generators/module_router.h"
+#include "generators/pes/pes_routines.h"
+
+// Statistics and probability.
+GeneratorModule MakeKvolMathPes() {
+    return {"KVOL_MATH_PES",
+            4,
+            {
+            }};
+}

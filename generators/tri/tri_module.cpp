@@ -1,0 +1,10 @@
+#include "generators/module_router.h"
+#include "generators/tri/tri_routines.h"
+
+// Trigonometry.
+GeneratorModule MakeKvolMathTri() {
+    return {"KVOL_MATH_TRI",
+            6,
+            {
+            }};
+}

@@ -1,0 +1,285 @@
+#include "mathservices/poly_markup.h"
+
+#include <cmath>
+
+#include "mathservices/arithmetic.h"
+#include "mathservices/number_markup.h"
+
+namespace {
+const std::string kX = "&+Ix&-I";
+const std::string kY = "&+Iy&-I";
+const std::string kZ = "&+Iz&-I";
+
+std::string Trim(const std::string& s) {
+    const auto first = s.find_first_not_of(' ');
+    if (first == std::string::npos) return "";
+    const auto last = s.find_last_not_of(' ');
+    return s.substr(first, last - first + 1);
+}
+
+// Blanks become fixed spaces and the decimal point the locale's mark.
+std::string Finish(const std::string& text) {
+    return ReplaceAll(ReplaceAll(Trim(text), " ", "& "), ".", "&.");
+}
+
+bool StartsWith(const std::string& s, const std::string& prefix) { return s.rfind(prefix, 0) == 0; }
+
+// "x - 3", "x + 2" or "x" for a coordinate minus a point's coordinate.
+std::string ShiftedVariable(MathWorkspace& ws, const std::string& variable, double value, const std::string& text) {
+    if (!text.empty()) {
+        if (StartsWith(text, "-")) return variable + "& +& " + text.substr(1);
+        return variable + "& -& " + text;
+    }
+    if (value == 0) return variable;
+    return variable + (value > 0 ? "& -& " : "& +& ") + NumberToExactMarkup(ws, std::fabs(value));
+}
+
+std::string CoordinateText(MathWorkspace& ws, double value, const std::string& text) {
+    return text.empty() ? NumberToExactMarkup(ws, value) : text;
+}
+
+// p + v·parameter, as a textbook writes one coordinate of a parametric line.
+std::string ParametricExpression(MathWorkspace& ws, double p, const std::string& pText, double v,
+                                 const std::string& vText, const std::string& parameter) {
+    std::string out;
+    if (!pText.empty()) out = pText;
+    else if (p != 0) out = NumberToExactMarkup(ws, p);
+    std::string term;
+    bool negative = false;
+    if (!vText.empty()) {
+        negative = StartsWith(vText, "-");
+        term = (negative ? vText.substr(1) : vText) + parameter;
+    } else if (v != 0) {
+        negative = v < 0;
+        term = (std::fabs(v) == 1 ? "" : NumberToExactMarkup(ws, std::fabs(v))) + parameter;
+    }
+    if (term.empty()) return out.empty() ? "0" : out;
+    if (out.empty()) return (negative ? "-" : "") + term;
+    return out + (negative ? "& -& " : "& +& ") + term;
+}
+
+std::string ListOf(MathWorkspace& ws, int dimension, const std::array<double, 3>& values,
+                   const std::array<std::string, 3>& texts) {
+    std::string out;
+    for (int i = 0; i < dimension; ++i) {
+        if (i > 0) out += ",& ";
+        out += CoordinateText(ws, values[i], texts[i]);
+    }
+    return out;
+}
+} // namespace
+
+std::string PolynomialToMarkup(double c4, double c3, double c2, double c1, double c0, std::string variable) {
+    if (variable.empty()) variable = kX;
+    const double c[5] = {c0, c1, c2, c3, c4};
+    std::string text;
+    bool first = true;
+    for (int degree = 4; degree >= 0; --degree) {
+        const double value = c[degree];
+        if (value == 0) continue;
+        if (first) text += value < 0 ? "-" : "";
+        else text += value < 0 ? " - " : " + ";
+        first = false;
+        const double magnitude = std::fabs(value);
+        if (magnitude != 1 || degree == 0) text += PlainNumberText(magnitude);
+        if (degree >= 1) text += variable;
+        if (degree >= 2) text += "^" + std::to_string(degree);
+    }
+    if (first) return "0";
+    return Finish(text);
+}
+
+std::string PolyWorkToMarkup(const PolyWork& poly, const std::string& variable) {
+    std::string text;
+    std::string joiner;
+    for (int k = 9; k >= 0; --k) {
+        if (!poly.texts[k].empty()) {
+            text += joiner + poly.texts[k];
+            if (k >= 1) text += variable;
+            // A parameter coefficient keeps its power like any other term.
+            if (k >= 2) text += "^" + std::to_string(k);
+        } else {
+            const double value = poly.coefficients[k];
+            if (value == 0) continue;
+            text += value < 0 ? " - " : joiner;
+            const double magnitude = std::fabs(value);
+            if (magnitude != 1) text += PlainNumberText(magnitude);
+            else if (k == 0) text += "1";
+            if (k >= 1) text += variable;
+            if (k >= 2) text += "^" + std::to_string(k);
+        }
+        joiner = " + ";
+    }
+    if (Trim(text).empty()) return "0";
+    return Finish(text);
+}
+
+std::string LinearFormToMarkup(const Coefficient& a, const Coefficient& b, const Coefficient& c,
+                               const Coefficient& d, bool equalsZero) {
+    const Coefficient* terms[3] = {&a, &b, &c};
+    const std::string letters[3] = {kX, kY, kZ};
+    std::string text;
+    bool first = true;
+    auto appendTerm = [&](const Coefficient& coefficient, const std::string& letter) {
+        std::string body;
+        bool negative = false;
+        if (!coefficient.text.empty()) {
+            negative = StartsWith(coefficient.text, "-");
+            body = negative ? coefficient.text.substr(1) : coefficient.text;
+        } else {
+            if (coefficient.value == 0) return;
+            negative = coefficient.value < 0;
+            const double magnitude = std::fabs(coefficient.value);
+            if (magnitude != 1 || letter.empty()) body = PlainNumberText(magnitude);
+        }
+        if (first) text += negative ? "-" : "";
+        else text += negative ? " - " : " + ";
+        text += body + letter;
+        first = false;
+    };
+    for (int i = 0; i < 3; ++i) appendTerm(*terms[i], letters[i]);
+    if (equalsZero) {
+        appendTerm(d, "");
+        if (first) text = "0";
+        text += " = 0";
+    } else {
+        if (first) text = "0";
+        text += " = " + (d.text.empty() ? PlainNumberText(d.value) : d.text);
+    }
+    return Finish(text);
+}
+
+std::string VectorFormToMarkup(MathWorkspace& ws, const LineData& line, LineForm form, const std::string& parameter) {
+    const bool space = line.dimension == 3;
+    const int n = space ? 3 : 2;
+    const std::string variables[3] = {kX, kY, kZ};
+    if (form == LineForm::SlopeIntercept && (space || line.direction[0] == 0)) form = LineForm::General;
+    switch (form) {
+    case LineForm::Vector:
+        return std::string(space ? "(&+Ix,& y,& z&-I)& =& (" : "(&+Ix,& y&-I)& =& (") +
+               ListOf(ws, n, line.point, line.pointTexts) + ")& +& " + parameter + "& (" +
+               ListOf(ws, n, line.direction, line.directionTexts) + ")";
+    case LineForm::Parametric: {
+        std::string out = "#NES({X#RWS(L";
+        for (int i = 0; i < n; ++i) {
+            const std::string row = std::to_string(i + 1);
+            out += "#RW" + row + "(" + variables[i] + "& =& " +
+                   ParametricExpression(ws, line.point[i], line.pointTexts[i], line.direction[i],
+                                        line.directionTexts[i], parameter) +
+                   "#RW" + row + ")";
+        }
+        return out + "#RWS)#NES)";
+    }
+    case LineForm::Continuous: {
+        std::string out;
+        for (int i = 0; i < n; ++i) {
+            if (i > 0) out += "& =& ";
+            out += "#COC(" + ShiftedVariable(ws, variables[i], line.point[i], line.pointTexts[i]) + "#N)(" +
+                   CoordinateText(ws, line.direction[i], line.directionTexts[i]) + "#COC)";
+        }
+        return out;
+    }
+    case LineForm::General: {
+        if (!space) {
+            double a = line.direction[1];
+            double b = -line.direction[0];
+            double c = -(a * line.point[0] + b * line.point[1]);
+            double unused = 0;
+            ReduceTerms(ws, a, b, unused, c);
+            return LinearFormToMarkup(a, b, 0, c, true);
+        }
+        // In space a line is the meeting of two planes, taken from the continuous form.
+        const auto& p = line.point;
+        const auto& v = line.direction;
+        std::string rows;
+        int row = 0;
+        auto addPlane = [&](double a, double b, double c, double d) {
+            ReduceTerms(ws, a, b, c, d);
+            if (a == 0 && b == 0 && c == 0) return;
+            if (row == 2) return;
+            const std::string r = std::to_string(++row);
+            rows += "#RW" + r + "(" + LinearFormToMarkup(a, b, c, d, true) + "#RW" + r + ")";
+        };
+        // v2·(x - p0) - v0·(y - p1) = 0, v2·(y - p1) - v1·(z - p2) = 0, v2·(x - p0) - v0·(z - p2) = 0
+        addPlane(v[1], -v[0], 0, -v[1] * p[0] + v[0] * p[1]);
+        addPlane(0, v[2], -v[1], -v[2] * p[1] + v[1] * p[2]);
+        addPlane(v[2], 0, -v[0], -v[2] * p[0] + v[0] * p[2]);
+        return "#NES({X#RWS(L" + rows + "#RWS)#NES)";
+    }
+    case LineForm::SlopeIntercept: {
+        const double m = line.direction[1] / line.direction[0];
+        const double q = line.point[1] - m * line.point[0];
+        std::string right;
+        if (m != 0) {
+            if (m == -1) right = "-";
+            else if (m != 1) right = NumberToExactMarkup(ws, m);
+            right += kX;
+        }
+        if (q != 0 || right.empty()) {
+            if (right.empty()) right = NumberToExactMarkup(ws, q);
+            else right += (q < 0 ? "& -& " : "& +& ") + NumberToExactMarkup(ws, std::fabs(q));
+        }
+        return kY + "& =& " + right;
+    }
+    }
+    return "";
+}
+
+std::string ConicToMarkup(MathWorkspace& ws, const ConicData& conic, ConicStyle style) {
+    if (style == ConicStyle::General) {
+        // Expand the reduced equation into A·x² + C·y² + D·x + E·y + F = 0.
+        double A = 0, C = 0, D = 0, E = 0, F = 0;
+        const double h = conic.h, k = conic.k;
+        switch (conic.kind) {
+        case ConicKind::Circle:
+            A = 1; C = 1; D = -2 * h; E = -2 * k; F = h * h + k * k - conic.a2;
+            break;
+        case ConicKind::Ellipse:
+            A = conic.b2; C = conic.a2; D = -2 * h * conic.b2; E = -2 * k * conic.a2;
+            F = conic.b2 * h * h + conic.a2 * k * k - conic.a2 * conic.b2;
+            break;
+        case ConicKind::Hyperbola: {
+            const double s = conic.vertical ? -1 : 1;
+            A = s * conic.b2; C = -s * conic.a2; D = -2 * h * A; E = -2 * k * C;
+            F = A * h * h + C * k * k - conic.a2 * conic.b2;
+            break;
+        }
+        case ConicKind::Parabola:
+            if (conic.vertical) { A = 1; D = -2 * h; E = -conic.a2; F = h * h + conic.a2 * k; }
+            else { C = 1; E = -2 * k; D = -conic.a2; F = k * k + conic.a2 * h; }
+            break;
+        }
+        std::string text = PolynomialToMarkup(0, 0, A, D, 0, kX);
+        const std::string yPart = PolynomialToMarkup(0, 0, C, E, F, kY);
+        if (text == "0") text = yPart;
+        else if (yPart != "0") text += StartsWith(yPart, "-") ? "& -& " + yPart.substr(1) : "& +& " + yPart;
+        return text + "& =& 0";
+    }
+    auto shifted = [&](const std::string& variable, double centre) {
+        if (centre == 0) return variable;
+        return variable + (centre > 0 ? "& -& " : "& +& ") + NumberToExactMarkup(ws, std::fabs(centre));
+    };
+    auto squared = [&](const std::string& variable, double centre) {
+        if (centre == 0) return variable + "^2";
+        return "(" + shifted(variable, centre) + ")^2";
+    };
+    auto over = [&](const std::string& top, double bottom) {
+        return "#COC( " + top + "#N)(" + NumberToExactMarkup(ws, bottom) + "#COC)";
+    };
+    switch (conic.kind) {
+    case ConicKind::Circle:
+        return squared(kX, conic.h) + "& +& " + squared(kY, conic.k) + "& =& " + NumberToExactMarkup(ws, conic.a2);
+    case ConicKind::Ellipse:
+        return over(squared(kX, conic.h), conic.a2) + "& +& " + over(squared(kY, conic.k), conic.b2) + "& =& 1";
+    case ConicKind::Hyperbola:
+        if (conic.vertical)
+            return over(squared(kY, conic.k), conic.a2) + "& -& " + over(squared(kX, conic.h), conic.b2) + "& =& 1";
+        return over(squared(kX, conic.h), conic.a2) + "& -& " + over(squared(kY, conic.k), conic.b2) + "& =& 1";
+    case ConicKind::Parabola: {
+        const std::string factor = NumberToExactMarkup(ws, conic.a2);
+        if (conic.vertical) return squared(kX, conic.h) + "& =& " + factor + "(" + shifted(kY, conic.k) + ")";
+        return squared(kY, conic.k) + "& =& " + factor + "(" + shifted(kX, conic.h) + ")";
+    }
+    }
+    return "";
+}

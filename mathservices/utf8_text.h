@@ -1,0 +1,12 @@
+#pragma once
+#include <string>
+
+// Program strings are UTF-8; fixed-width texts count characters, not bytes.
+
+std::size_t Utf8Length(const std::string& text);
+// The first count characters of text.
+std::string Utf8Left(const std::string& text, std::size_t count);
+// The characters of text from the 0-based character index start on, at most count.
+std::string Utf8Mid(const std::string& text, std::size_t start, std::size_t count = std::string::npos);
+// Padded with blanks on the right, or cut, to exactly width characters.
+std::string Utf8PadRight(const std::string& text, std::size_t width);

@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+
+#include "mathservices/poly_markup.h"
+
+TEST(PolynomialToMarkup, TextbookForm) {
+    EXPECT_EQ(PolynomialToMarkup(0, 0, 0, 0, 0, ""), "0");
+    EXPECT_EQ(PolynomialToMarkup(0, 0, 0, 1, 0, ""), "&+Ix&-I");
+    EXPECT_EQ(PolynomialToMarkup(0, 0, 0, 0, 1, ""), "1");
+    EXPECT_EQ(PolynomialToMarkup(0, 0, 1, -1, 0, ""), "&+Ix&-I^2& -& &+Ix&-I");
+    EXPECT_EQ(PolynomialToMarkup(0, 0, 0, 1.5, 0, ""), "1&.5&+Ix&-I");
+    EXPECT_EQ(PolynomialToMarkup(0, 0, -1, 0, 0, ""), "-&+Ix&-I^2");
+    EXPECT_EQ(PolynomialToMarkup(0, -1, 0, 2, -1, ""), "-&+Ix&-I^3& +& 2&+Ix&-I& -& 1");
+    EXPECT_EQ(PolynomialToMarkup(3, 0, 0, 0, 0, "&+It&-I"), "3&+It&-I^4");
+}
+
+TEST(PolyWorkToMarkup, FromDegreeNineDown) {
+    PolyWork p;
+    EXPECT_EQ(PolyWorkToMarkup(p, "&+Ix&-I"), "0");
+    p.coefficients[5] = 2;
+    p.coefficients[1] = -1;
+    p.coefficients[0] = 1;
+    EXPECT_EQ(PolyWorkToMarkup(p, "&+Ix&-I"), "2&+Ix&-I^5& -& &+Ix&-I& +& 1");
+    p.Clear();
+    p.coefficients[2] = -3;
+    p.texts[1] = "&+Ia&-I";
+    // A negative first term keeps its leading "- ".
+    EXPECT_EQ(PolyWorkToMarkup(p, "&+Ix&-I"), "-& 3&+Ix&-I^2& +& &+Ia&-I&+Ix&-I");
+}
+
+TEST(LinearFormToMarkup, GeneralAndExplicit) {
+    EXPECT_EQ(LinearFormToMarkup(2, -1, 0, 3, true), "2&+Ix&-I& -& &+Iy&-I& +& 3& =& 0");
+    EXPECT_EQ(LinearFormToMarkup(0, 1, -4, 0, true), "&+Iy&-I& -& 4&+Iz&-I& =& 0");
+    EXPECT_EQ(LinearFormToMarkup(-1, 2, 1, 5, false), "-&+Ix&-I& +& 2&+Iy&-I& +& &+Iz&-I& =& 5");
+    EXPECT_EQ(LinearFormToMarkup(Coefficient(0, "-&+Ia&-I"), 1, 0, 1, true),
+              "-&+Ia&-I&+Ix&-I& +& &+Iy&-I& +& 1& =& 0");
+    EXPECT_EQ(LinearFormToMarkup(1.5, 0, 0, -1, true), "1&.5&+Ix&-I& -& 1& =& 0");
+}
+
+TEST(VectorFormToMarkup, FormsOfAPlaneLine) {
+    MathWorkspace ws;
+    LineData line;
+    line.point = {1, -2, 0};
+    line.direction = {3, 4, 0};
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::Vector, "&lambda"),
+              "(&+Ix,& y&-I)& =& (1,& -2)& +& &lambda& (3,& 4)");
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::Parametric, "&lambda"),
+              "#NES({X#RWS(L#RW1(&+Ix&-I& =& 1& +& 3&lambda#RW1)#RW2(&+Iy&-I& =& -2& +& 4&lambda#RW2)#RWS)#NES)");
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::Continuous, "&lambda"),
+              "#COC(&+Ix&-I& -& 1#N)(3#COC)& =& #COC(&+Iy&-I& +& 2#N)(4#COC)");
+    // 4x - 3y - 10 = 0 passes through (1, -2) with direction (3, 4).
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::General, "&lambda"),
+              "4&+Ix&-I& -& 3&+Iy&-I& -& 10& =& 0");
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::SlopeIntercept, "&lambda"),
+              "&+Iy&-I& =& #COC(4#N)(3#COC)&+Ix&-I& -& #COC(10#N)(3#COC)");
+    line.direction = {0, 1, 0};
+    // A vertical line has no slope: the general form stands instead.
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::SlopeIntercept, "t"), "&+Ix&-I& -& 1& =& 0");
+}
+
+TEST(VectorFormToMarkup, SpaceLineHasThreeRows) {
+    MathWorkspace ws;
+    LineData line;
+    line.dimension = 3;
+    line.point = {1, 0, 2};
+    line.direction = {1, -1, 2};
+    const std::string parametric = VectorFormToMarkup(ws, line, LineForm::Parametric, "t");
+    EXPECT_NE(parametric.find("#RW3(&+Iz&-I& =& 2& +& 2t#RW3)"), std::string::npos) << parametric;
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::Vector, "t"),
+              "(&+Ix,& y,& z&-I)& =& (1,& 0,& 2)& +& t& (1,& -1,& 2)");
+}
+
+TEST(ConicToMarkup, CircleAndEllipse) {
+    MathWorkspace ws;
+    ConicData circle{ConicKind::Circle, 2, -3, 16, 0, false};
+    EXPECT_EQ(ConicToMarkup(ws, circle, ConicStyle::Reduced),
+              "(&+Ix&-I& -& 2)^2& +& (&+Iy&-I& +& 3)^2& =& 16");
+    EXPECT_EQ(ConicToMarkup(ws, circle, ConicStyle::General),
+              "&+Ix&-I^2& -& 4&+Ix&-I& +& &+Iy&-I^2& +& 6&+Iy&-I& -& 3& =& 0");
+    ConicData ellipse{ConicKind::Ellipse, 0, 0, 25, 9, false};
+    EXPECT_EQ(ConicToMarkup(ws, ellipse, ConicStyle::Reduced),
+              "#COC( &+Ix&-I^2#N)(25#COC)& +& #COC( &+Iy&-I^2#N)(9#COC)& =& 1");
+}

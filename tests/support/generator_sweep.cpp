@@ -1,0 +1,84 @@
+#include "support/generator_sweep.h"
+
+#include <chrono>
+
+#include <gtest/gtest.h>
+
+#include "support/markup_lint.h"
+
+GeneratedProblem GenerateProblem(GeneratorHub& hub, const std::string& module, const ProblemCodeFields& fields) {
+    GeneratedProblem p;
+    p.fields = fields;
+    p.code = MakeProblemCode(fields);
+    hub.RunGenerator(module, p.code, p.statement, p.solution);
+    return p;
+}
+
+
+std::vector<std::string> StatementItems(const std::string& statement) {
+    // An item runs from ")&-B&+I " to the next item's column mark.
+    std::vector<std::string> out;
+    std::size_t pos = 0;
+    const std::string open = ")&-B&+I ";
+    while ((pos = statement.find(open, pos)) != std::string::npos) {
+        pos += open.size();
+        auto end = statement.find("&SP=", pos);
+        if (end == std::string::npos) end = statement.size();
+        std::string item = statement.substr(pos, end - pos);
+        while (item.size() >= 3 && item.compare(item.size() - 3, 3, "&LF") == 0) item.erase(item.size() - 3);
+        if (item.size() >= 3 && item.compare(item.size() - 3, 3, "&-I") == 0) item.erase(item.size() - 3);
+        out.push_back(item);
+        pos = end;
+    }
+    return out;
+}
+
+std::vector<std::string> SolutionItems(const std::string& solution) {
+    std::vector<std::string> out;
+    std::size_t pos = 0;
+    const std::string open = ")&-B ";
+    while ((pos = solution.find(open, pos)) != std::string::npos) {
+        pos += open.size();
+        auto end = solution.find("&SP=", pos);
+        if (end == std::string::npos) end = solution.size();
+        std::string item = solution.substr(pos, end - pos);
+        while (item.size() >= 3 && item.compare(item.size() - 3, 3, "&LF") == 0) item.erase(item.size() - 3);
+        out.push_back(item);
+        pos = end;
+    }
+    return out;
+}
+
+void SweepRoutine(const std::string& module, int routine, int seedCount,
+                  const std::function<void(const GeneratedProblem&)>& check) {
+    GeneratorHub hub;
+    int failures = 0;
+    for (int seed = 0; seed < seedCount && failures < 10; ++seed) {
+        ProblemCodeFields f;
+        f.RoutineId = routine;
+        f.VariantNumber = (seed * 37) % 900;
+        f.Seed = seed;
+        f.ItemCount = seed % 31;
+        f.GroupSize = 1 + (seed / 31) % 10;
+        f.GroupIndex = 1 + seed % f.GroupSize;
+        const auto start = std::chrono::steady_clock::now();
+        const GeneratedProblem p = GenerateProblem(hub, module, f);
+        const auto elapsed = std::chrono::steady_clock::now() - start;
+        const int before = ::testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count();
+        EXPECT_EQ(p.statement.find("<ERROR"), std::string::npos) << p.code << ": " << p.statement;
+        EXPECT_EQ(p.solution.find("<ERROR"), std::string::npos) << p.code << ": " << p.solution;
+        EXPECT_EQ(LintMarkup(p.statement), "") << p.code << ": " << p.statement;
+        EXPECT_EQ(LintMarkup(p.solution), "") << p.code << ": " << p.solution;
+        const auto items = StatementItems(p.statement);
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            for (std::size_t j = 0; j < i; ++j) {
+                EXPECT_NE(items[i], items[j]) << p.code << ": items " << j + 1 << " and " << i + 1 << " repeat";
+            }
+        }
+        // Generous against a loaded machine; a problem normally takes well under 1 ms.
+        const double milliseconds = std::chrono::duration<double, std::milli>(elapsed).count();
+        EXPECT_LT(milliseconds, 50.0) << p.code;
+        if (check) check(p);
+        if (::testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count() > before) ++failures;
+    }
+}

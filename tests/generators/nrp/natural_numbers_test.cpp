@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <set>
+
 #include <gtest/gtest.h>
 
 #include "generators/hub.h"
@@ -96,4 +99,26 @@ TEST(NaturalNumbers, HeadLineIsOneOfFour) {
                                              "Calculate the following expressions.&LF",
                                              "Calculate these expressions involving natural numbers.&LF",
                                              "Calculate these expressions.&LF"}));
+}
+
+TEST(NaturalNumbers, EverySeedAndItemCount) {
+    // The loop draws the same items whatever the count: the items of a shorter problem are
+    // the first items of the longest one, so checking the longest checks them all.
+    GeneratorHub hub;
+    for (int seed = 0; seed <= 8999; ++seed) {
+        const GeneratedProblem full = GenerateProblem(hub, "KVOL_MATH_NRP", {12, 0, seed, 26, 1, 1});
+        const auto fullItems = StatementItems(full.statement);
+        const auto fullAnswers = SolutionItems(full.solution);
+        ASSERT_EQ(fullItems.size(), 26u) << full.code;
+        for (int count = 0; count <= 30; ++count) {
+            const GeneratedProblem p = GenerateProblem(hub, "KVOL_MATH_NRP", {12, 0, seed, count, 1, 1});
+            const auto items = StatementItems(p.statement);
+            const auto answers = SolutionItems(p.solution);
+            const std::size_t n = static_cast<std::size_t>(std::clamp(count, 1, 26));
+            ASSERT_EQ(items.size(), n) << p.code;
+            ASSERT_TRUE(std::equal(items.begin(), items.end(), fullItems.begin())) << p.code;
+            ASSERT_TRUE(std::equal(answers.begin(), answers.end(), fullAnswers.begin())) << p.code;
+            ASSERT_EQ(p.statement.find("<ERROR"), std::string::npos) << p.code;
+        }
+    }
 }

@@ -19,6 +19,9 @@ std::string Upper(std::string s) {
 }
 
 std::string NotFoundText(const GeneratorModule& module, const std::string& routineId) {
+    // The basic-geometry module has always answered in the other language.
+    if (module.notFoundWording == NotFoundWording::Spanish)
+        return "<ERROR EN MODULO " + module.name + ". NO EXISTE RUTINA CON ID = " + routineId + ">&LF";
     return "<ERROR IN MODULE " + module.name + ":. THE ROUTINE ID = " + routineId + " IS NOT FOUND>&LF";
 }
 

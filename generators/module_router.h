@@ -16,10 +16,14 @@ struct RoutineEntry {
 
 // One module of generators: its name, the greatest number its describe loop visits, and
 // its routines by number.
+// The language of a module's text for a routine number it does not have.
+enum class NotFoundWording { English, Spanish };
+
 struct GeneratorModule {
     std::string name;
     int greatestNumber = 0;
     std::vector<RoutineEntry> routines;
+    NotFoundWording notFoundWording = NotFoundWording::English;
 
     GeneratorRoutine Find(int number) const;
 };

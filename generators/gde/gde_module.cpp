@@ -6,5 +6,6 @@ GeneratorModule MakeKvolMathGde() {
     return {"KVOL_MATH_GDE",
             6,
             {
-            }};
+            },
+            NotFoundWording::Spanish};
 }

@@ -74,12 +74,20 @@ TEST(RunGenerator, UnknownRoutine) {
 
 TEST(RunGenerator, EveryModuleHasItsRouter) {
     GeneratorHub hub;
-    for (const char* name : {"KVOL_MATH_ALG", "KVOL_MATH_ECU", "KVOL_MATH_GA2", "KVOL_MATH_GA3", "KVOL_MATH_GDE",
-                             "KVOL_MATH_INT", "KVOL_MATH_LFD", "KVOL_MATH_NRP", "KVOL_MATH_PES", "KVOL_MATH_TRI"}) {
+    for (const char* name : {"KVOL_MATH_ALG", "KVOL_MATH_ECU", "KVOL_MATH_GA2", "KVOL_MATH_GA3", "KVOL_MATH_INT",
+                             "KVOL_MATH_LFD", "KVOL_MATH_NRP", "KVOL_MATH_PES", "KVOL_MATH_TRI"}) {
         std::string s, r;
         hub.RunGenerator(name, "0991234567050101", s, r);
         EXPECT_EQ(s, std::string("<ERROR IN MODULE ") + name + ":. THE ROUTINE ID = 099 IS NOT FOUND>&LF");
     }
+}
+
+TEST(RunGenerator, BasicGeometryAnswersInTheOtherLanguage) {
+    GeneratorHub hub;
+    std::string s, r;
+    hub.RunGenerator("KVOL_MATH_GDE", "0991234567050101", s, r);
+    EXPECT_EQ(s, "<ERROR EN MODULO KVOL_MATH_GDE. NO EXISTE RUTINA CON ID = 099>&LF");
+    EXPECT_EQ(r, "&LF");
 }
 
 TEST(FaultStatement, Shape) {

@@ -17,9 +17,11 @@ void AdditionAndSubtractionOfNaturalNumbers(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         operation += 1;
         if (operation > 2) operation = 1;
-        // Both coins are always drawn.
-        if (operation == 1 && Coin(ws, 0.9f)) operation = 2;
-        if (operation == 2 && Coin(ws, 0.9f)) operation = 1;
+        // Both coins are always drawn, whatever the operation.
+        const bool toSubtraction = Coin(ws, 0.9f);
+        if (operation == 1 && toSubtraction) operation = 2;
+        const bool toAddition = Coin(ws, 0.9f);
+        if (operation == 2 && toAddition) operation = 1;
         std::string text;
         double result = 0;
         // An item equal to an earlier one is drawn anew (the numbers too: building the

@@ -53,6 +53,8 @@ void SweepRoutine(const std::string& module, int routine, int seedCount,
                   const std::function<void(const GeneratedProblem&)>& check) {
     GeneratorHub hub;
     int failures = 0;
+    double totalMilliseconds = 0;
+    int generated = 0;
     for (int seed = 0; seed < seedCount && failures < 10; ++seed) {
         ProblemCodeFields f;
         f.RoutineId = routine;
@@ -75,10 +77,12 @@ void SweepRoutine(const std::string& module, int routine, int seedCount,
                 EXPECT_NE(items[i], items[j]) << p.code << ": items " << j + 1 << " and " << i + 1 << " repeat";
             }
         }
-        // Generous against a loaded machine; a problem normally takes well under 1 ms.
-        const double milliseconds = std::chrono::duration<double, std::milli>(elapsed).count();
-        EXPECT_LT(milliseconds, 50.0) << p.code;
+        totalMilliseconds += std::chrono::duration<double, std::milli>(elapsed).count();
+        ++generated;
         if (check) check(p);
         if (::testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count() > before) ++failures;
     }
+    // The mean, not each problem: a single problem can be delayed by a loaded machine.
+    // Benchmarks give the real figures; this only catches a generator gone slow.
+    if (generated > 0) EXPECT_LT(totalMilliseconds / generated, 10.0) << module << " " << routine;
 }

@@ -62,7 +62,13 @@ SquareRootSumItem DrawSquareRootSum(GeneratorWorkspace& ws, int terms) {
         item.factors.push_back(k);
     }
     double total = 0;
-    for (int j = 0; j < terms; ++j) total += item.coefficients[j] * item.factors[j];
+    for (int j = 0; j < terms; ++j) {
+        total += item.coefficients[j] * item.factors[j];
+        // Two terms that cancel as they stand teach nothing.
+        for (int i = 0; i < j; ++i) {
+            if (item.factors[i] == item.factors[j] && item.coefficients[i] == -item.coefficients[j]) return {};
+        }
+    }
     // Something must come out of a root, and the sum must not vanish.
     if (!anyFactor || total == 0) return {};
     item.total = total;

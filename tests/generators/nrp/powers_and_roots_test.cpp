@@ -84,6 +84,10 @@ TEST(SquareRootSums, TermsCombine) {
             factor = factor || item.factors[j] > 1;
             EXPECT_GE(std::fabs(item.coefficients[j]), 1);
             EXPECT_LE(std::fabs(item.coefficients[j]), 6);
+            for (int i = 0; i < j; ++i) {
+                EXPECT_FALSE(item.factors[i] == item.factors[j] && item.coefficients[i] == -item.coefficients[j])
+                    << item.texts.statement;
+            }
         }
         EXPECT_TRUE(factor) << item.texts.statement;
         EXPECT_EQ(total, item.total);

@@ -64,9 +64,11 @@ SquareRootSumItem DrawSquareRootSum(GeneratorWorkspace& ws, int terms) {
     double total = 0;
     for (int j = 0; j < terms; ++j) {
         total += item.coefficients[j] * item.factors[j];
-        // Two terms that cancel as they stand teach nothing.
+        // Two terms that cancel or repeat as they stand teach nothing.
         for (int i = 0; i < j; ++i) {
-            if (item.factors[i] == item.factors[j] && item.coefficients[i] == -item.coefficients[j]) return {};
+            if (item.factors[i] == item.factors[j] &&
+                std::fabs(item.coefficients[i]) == std::fabs(item.coefficients[j]))
+                return {};
         }
     }
     // Something must come out of a root, and the sum must not vanish.

@@ -347,23 +347,23 @@ const Golden kGolden[] = {
      "&SP=10:&-I&+Ba)&-B #COC(26_ #RAD(#RI(7#RI)5^4#RAD)#N)(5#COC)&LF&LF"},
     {"0250170067040101",
      "Calculate the following expressions:&LF&SP=5:&+Ba)&-B -5#SQR(20#SQR) + 2#SQR(45#SQR) + 2#SQR(5#S"
-     "QR) - 4#SQR(5#SQR)&SP=29:&+Bb)&-B #SQR(45#SQR) - #SQR(20#SQR)&SP=53:&+Bc)&-B -4#SQR(5#SQR) - 3#S"
-     "QR(45#SQR) - 4#SQR(5#SQR)&SP=76:&+Bd)&-B 3#SQR(5#SQR) - 4#SQR(80#SQR) - 4#SQR(20#SQR) + #SQR(20#"
-     "SQR)&LF&LF",
-     "&SP=10:&-I&+Ba)&-B -& 6#SQR(5#SQR)&SP=32:&-I&+Bb)&-B #SQR(5#SQR)&SP=54:&-I&+Bc)&-B -& 17#SQR(5#S"
-     "QR)&SP=76:&-I&+Bd)&-B -& 19#SQR(5#SQR)&LF&LF"},
+     "QR) - 4#SQR(5#SQR)&SP=29:&+Bb)&-B #SQR(45#SQR) - #SQR(20#SQR)&SP=53:&+Bc)&-B 3#SQR(5#SQR) - 4#SQ"
+     "R(80#SQR) - 4#SQR(20#SQR)&SP=76:&+Bd)&-B #SQR(75#SQR) + 5#SQR(75#SQR) - 6#SQR(12#SQR) - 5#SQR(27"
+     "#SQR)&LF&LF",
+     "&SP=10:&-I&+Ba)&-B -& 6#SQR(5#SQR)&SP=32:&-I&+Bb)&-B #SQR(5#SQR)&SP=54:&-I&+Bc)&-B -& 21#SQR(5#S"
+     "QR)&SP=76:&-I&+Bd)&-B 3#SQR(3#SQR)&LF&LF"},
     {"0253454175090502",
      "Calculate the following expressions:&LF&SP=5:&+Ba)&-B #SQR(12#SQR) + 3#SQR(3#SQR) - #SQR(3#SQR) "
-     "+ 4#SQR(12#SQR)&SP=29:&+Bb)&-B 4#SQR(12#SQR) + 5#SQR(48#SQR)&SP=53:&+Bc)&-B #SQR(112#SQR) + #SQR"
-     "(112#SQR) - #SQR(63#SQR)&SP=76:&+Bd)&-B 5#SQR(12#SQR) + 2#SQR(3#SQR) + 3#SQR(27#SQR) + 3#SQR(3#S"
-     "QR)&LF&LF&SP=5:&+Be)&-B 6#SQR(20#SQR) - 3#SQR(20#SQR)&SP=29:&+Bf)&-B 2#SQR(2#SQR) + #SQR(32#SQR)"
-     " + #SQR(8#SQR)&SP=53:&+Bg)&-B 3#SQR(3#SQR) - 2#SQR(48#SQR) + 2#SQR(3#SQR) + 2#SQR(27#SQR)&SP=76:"
-     "&+Bh)&-B -6#SQR(28#SQR) - #SQR(7#SQR)&LF&LF&SP=5:&+Bi)&-B #SQR(7#SQR) - #SQR(112#SQR) + 4#SQR(7#"
-     "SQR)&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 12#SQR(3#SQR)&SP=32:&-I&+Bb)&-B 28#SQR(3#SQR)&SP=54:&-I&+Bc)&-B 5#SQR(7#SQR)&"
-     "SP=76:&-I&+Bd)&-B 24#SQR(3#SQR)&LF&LF&SP=10:&-I&+Be)&-B 6#SQR(5#SQR)&SP=32:&-I&+Bf)&-B 8#SQR(2#S"
-     "QR)&SP=54:&-I&+Bg)&-B 3#SQR(3#SQR)&SP=76:&-I&+Bh)&-B -& 13#SQR(7#SQR)&LF&LF&SP=10:&-I&+Bi)&-B #S"
-     "QR(7#SQR)&LF&LF"},
+     "+ 4#SQR(12#SQR)&SP=29:&+Bb)&-B 4#SQR(12#SQR) + 5#SQR(48#SQR)&SP=53:&+Bc)&-B #SQR(27#SQR) + #SQR("
+     "12#SQR) + 3#SQR(3#SQR)&SP=76:&+Bd)&-B 4#SQR(48#SQR) - 2#SQR(75#SQR) - 3#SQR(12#SQR) - 5#SQR(3#SQ"
+     "R)&LF&LF&SP=5:&+Be)&-B #SQR(125#SQR) + #SQR(20#SQR)&SP=29:&+Bf)&-B 3#SQR(3#SQR) - 2#SQR(48#SQR) "
+     "+ 2#SQR(3#SQR)&SP=53:&+Bg)&-B #SQR(80#SQR) + 6#SQR(125#SQR) - #SQR(5#SQR) - #SQR(45#SQR)&SP=76:&"
+     "+Bh)&-B 3#SQR(20#SQR) + #SQR(5#SQR)&LF&LF&SP=5:&+Bi)&-B #SQR(27#SQR) - 5#SQR(3#SQR) + #SQR(3#SQR"
+     ")&LF&LF",
+     "&SP=10:&-I&+Ba)&-B 12#SQR(3#SQR)&SP=32:&-I&+Bb)&-B 28#SQR(3#SQR)&SP=54:&-I&+Bc)&-B 8#SQR(3#SQR)&"
+     "SP=76:&-I&+Bd)&-B -& 5#SQR(3#SQR)&LF&LF&SP=10:&-I&+Be)&-B 7#SQR(5#SQR)&SP=32:&-I&+Bf)&-B -& 3#SQ"
+     "R(3#SQR)&SP=54:&-I&+Bg)&-B 30#SQR(5#SQR)&SP=76:&-I&+Bh)&-B 7#SQR(5#SQR)&LF&LF&SP=10:&-I&+Bi)&-B "
+     "-& #SQR(3#SQR)&LF&LF"},
     {"0258998974011010",
      "Calculate the following expressions:&LF&SP=5:&+Ba)&-B 3#SQR(125#SQR) + 5#SQR(5#SQR)&LF&LF",
      "&SP=10:&-I&+Ba)&-B 20#SQR(5#SQR)&LF&LF"},

@@ -85,7 +85,8 @@ TEST(SquareRootSums, TermsCombine) {
             EXPECT_GE(std::fabs(item.coefficients[j]), 1);
             EXPECT_LE(std::fabs(item.coefficients[j]), 6);
             for (int i = 0; i < j; ++i) {
-                EXPECT_FALSE(item.factors[i] == item.factors[j] && item.coefficients[i] == -item.coefficients[j])
+                EXPECT_FALSE(item.factors[i] == item.factors[j] &&
+                             std::fabs(item.coefficients[i]) == std::fabs(item.coefficients[j]))
                     << item.texts.statement;
             }
         }

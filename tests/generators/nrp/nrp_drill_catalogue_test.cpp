@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "generators/hub.h"
 #include "generators/nrp/nrp_routines.h"
 
 // The describe blocks of the drills, as the catalogue lists them.
@@ -78,5 +79,25 @@ TEST(NrpDrillCatalogue, DescribeBlocks) {
         EXPECT_EQ(ws.Solution, "") << e.title;
         // Describing draws nothing.
         EXPECT_EQ(ws.stream.Draw(), before.stream.Draw()) << e.title;
+    }
+}
+
+TEST(NrpDrillCatalogue, SameCodeSameTextWhateverCameBetween) {
+    GeneratorHub hub;
+    const int routines[] = {1, 2, 5, 6, 7, 8, 9, 10, 11, 13, 14, 15, 21, 22, 23, 24, 25};
+    for (int routine : routines) {
+        const std::string code = MakeProblemCode({routine, 12, 3456, 7, 2, 1});
+        std::string statement, solution;
+        hub.RunGenerator("KVOL_MATH_NRP", code, statement, solution);
+        // Another problem of each drill in between.
+        for (int other : routines) {
+            std::string s, t;
+            hub.RunGenerator("KVOL_MATH_NRP", MakeProblemCode({other, 1, 77, 26, 1, 1}), s, t);
+        }
+        std::string again, againSolution;
+        hub.RunGenerator("KVOL_MATH_NRP", code, again, againSolution);
+        EXPECT_EQ(again, statement) << code;
+        EXPECT_EQ(againSolution, solution) << code;
+        EXPECT_FALSE(statement.empty()) << code;
     }
 }

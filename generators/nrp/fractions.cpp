@@ -143,7 +143,7 @@ void FourOperationsWithFractions(GeneratorWorkspace& ws) {
                 if (!refused) value = Div(ws, a, Add(ws, b, c));
                 break;
             default: {
-                // The second product's sign joins it to the first.
+                // The sign of c joins the quotient c : d to the product.
                 const Ratio cd = Div(ws, c, d);
                 text = first + " × " + Factor(ws, b) + Joined(ws, c, false) + " : " + Factor(ws, d);
                 value = Add(ws, Mul(ws, a, b), cd);

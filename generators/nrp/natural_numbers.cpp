@@ -116,7 +116,8 @@ void DivisionOfNaturalNumbers(GeneratorWorkspace& ws) {
             if (!drill.IsRepeat(text)) break;
             bound.Next();
         }
-        drill.AddItem(text, "&+I q = " + GroupDigits(PlainNumberText(q)) + ",  r = &-I" + GroupDigits(PlainNumberText(r)));
+        drill.AddItem(text,
+                      "&+I q = " + GroupDigits(PlainNumberText(q)) + ",  r = &-I" + GroupDigits(PlainNumberText(r)));
     }
     drill.WriteStatement(kNaturalHeadLines);
 }

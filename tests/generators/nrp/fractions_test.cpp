@@ -119,7 +119,8 @@ TEST(FractionDrills, HeadLines) {
     GeneratorHub hub;
     const std::set<std::string> rational = {"Calculate the following rational expressions.&LF",
                                             "Calculate the following expressions.&LF",
-                                            "Calculate these rational expressions.&LF", "Calculate these expressions.&LF"};
+                                            "Calculate these rational expressions.&LF",
+                                            "Calculate these expressions.&LF"};
     for (int routine : {8, 9}) {
         std::set<std::string> heads;
         for (int seed = 0; seed < 200; ++seed) {

@@ -10,7 +10,8 @@
 
 namespace {
 // Each item's statement and answer read as numbers agree.
-void ExpectItemsEqualAnswers(const GeneratedProblem& p, const std::function<void(const std::string&, double)>& more = {}) {
+void ExpectItemsEqualAnswers(const GeneratedProblem& p,
+                             const std::function<void(const std::string&, double)>& more = {}) {
     const auto items = StatementItems(p.statement);
     const auto answers = SolutionItems(p.solution);
     ASSERT_EQ(static_cast<int>(items.size()), ExpectedItems(p)) << p.code;

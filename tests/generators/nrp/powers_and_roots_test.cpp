@@ -225,7 +225,10 @@ TEST(SquareRootRationalisation, AnswersAreRightWithoutRootsBelow) {
 }
 
 TEST(SquareRootRationalisation, EveryTypeGivesReducedAnswers) {
-    static const std::regex conjugate(R"(^#COC\((-?\d+)(?:_ #SQR\(\d+#SQR\) [+-] (\d+)| [+-] (\d+)_ #SQR\(\d+#SQR\))#N\)\((\d+)#COC\)$)");
+    // "#COC(" a "_ " root, a sign and a whole number, or a whole number, a sign and b "_ "
+    // root, over a whole denominator.
+    static const std::regex conjugate(R"(^#COC\((-?\d+)(?:_ #SQR\(\d+#SQR\) [+-] (\d+)| [+-] (\d+)_ #SQR\(\d+#SQR\)))"
+                                      R"(#N\)\((\d+)#COC\)$)");
     GeneratorWorkspace ws;
     ws.stream.Draw(-1);
     int made[7] = {};

@@ -1,4 +1,5 @@
 #include "generators/item_drill.h"
+#include "generators/nrp/drill_items.h"
 #include "generators/nrp/nrp_routines.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
@@ -50,4 +51,164 @@ void AdditionAndSubtractionOfNaturalNumbers(GeneratorWorkspace& ws) {
                           "Calculate the following expressions.&LF",
                           "Calculate these expressions involving natural numbers.&LF",
                           "Calculate these expressions.&LF"});
+}
+
+namespace {
+const std::vector<std::string> kNaturalHeadLines = {
+    "Calculate the following expressions involving natural numbers.&LF", "Calculate the following expressions.&LF",
+    "Calculate these expressions involving natural numbers.&LF", "Calculate these expressions.&LF"};
+} // namespace
+
+// Routine 13: products of a number of three to five digits by one of two to four digits.
+void MultiplicationOfNaturalNumbers(GeneratorWorkspace& ws) {
+    if (ws.DescribeMode) {
+        Describe(ws, {"010", "Natural numbers", "002", "2", "026", "Multiplication of natural numbers",
+                      "Exercises to practice multiplication of natural numbers (1 type)"});
+        return;
+    }
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns3);
+    for (int i = 1; i <= drill.Count(); ++i) {
+        std::string text;
+        double product = 0;
+        RetryBound bound;
+        while (true) {
+            double a = RandomInRange(ws, 10000, 99999, 1, 1);
+            double b = RandomInRange(ws, 1000, 9999, 1, 1);
+            // Two coins shorten each number by a digit; the last one puts the shorter first.
+            if (Coin(ws, 0.6f)) a = Int(a / 10);
+            if (Coin(ws, 0.6f)) a = Int(a / 10);
+            if (Coin(ws, 0.6f)) b = Int(b / 10);
+            if (Coin(ws, 0.6f)) b = Int(b / 10);
+            const bool shorterFirst = Coin(ws, 0.5f);
+            const std::string aText = GroupDigits(PlainNumberText(a));
+            const std::string bText = GroupDigits(PlainNumberText(b));
+            text = shorterFirst ? bText + " × " + aText : aText + " × " + bText;
+            product = a * b;
+            if (!drill.IsRepeat(text)) break;
+            bound.Next();
+        }
+        drill.AddItem(text, GroupDigits(PlainNumberText(product)));
+    }
+    drill.WriteStatement(kNaturalHeadLines);
+}
+
+// Routine 1: long division of a number of four to six digits by one of two or three
+// digits, with quotient and remainder.
+void DivisionOfNaturalNumbers(GeneratorWorkspace& ws) {
+    if (ws.DescribeMode) {
+        Describe(ws, {"010", "Natural numbers", "003", "2", "026", "Division of natural numbers",
+                      "Exercises to practice division of natural numbers (1 type)"});
+        return;
+    }
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns3);
+    for (int i = 1; i <= drill.Count(); ++i) {
+        std::string text;
+        double q = 0;
+        double r = 0;
+        RetryBound bound;
+        while (true) {
+            double a = RandomInRange(ws, 100000, 999999, 1, 1);
+            double b = RandomInRange(ws, 100, 999, 1, 1);
+            if (Coin(ws, 0.6f)) b = Int(b / 10);
+            if (Coin(ws, 0.6f)) a = Int(a / 10);
+            if (Coin(ws, 0.6f)) a = Int(a / 10);
+            q = Int(a / b);
+            r = a - q * b;
+            text = GroupDigits(PlainNumberText(a)) + " : " + GroupDigits(PlainNumberText(b));
+            if (!drill.IsRepeat(text)) break;
+            bound.Next();
+        }
+        drill.AddItem(text,
+                      "&+I q = " + GroupDigits(PlainNumberText(q)) + ",  r = &-I" + GroupDigits(PlainNumberText(r)));
+    }
+    drill.WriteStatement(kNaturalHeadLines);
+}
+
+namespace {
+// The primes of the lcm and gcm drill with the coin that multiplies a number by each and
+// the limit above which a number takes no more of it.
+struct PrimeRound {
+    double prime;
+    float threshold;
+    double limit;
+};
+constexpr PrimeRound kPrimeRounds[] = {{2, 0.5f, 500}, {3, 0.6f, 300}, {5, 0.7f, 200}, {7, 0.8f, 140}};
+// What a number left at 1, or below 10, becomes after a round: no item is trivial.
+constexpr double kInsteadOfOne[] = {30, 36, 40};
+constexpr double kInsteadOfSmall[] = {16, 45, 54};
+} // namespace
+
+LcmGcmItem DrawLcmGcmNumbers(GeneratorWorkspace& ws, int count) {
+    LcmGcmItem item;
+    double numbers[3] = {1, 1, 1};
+    for (int round = 0; round < 4; ++round) {
+        for (const PrimeRound& p : kPrimeRounds) {
+            for (double& x : numbers) {
+                if (Coin(ws, p.threshold) && x < p.limit) x *= p.prime;
+            }
+        }
+        for (int k = 0; k < 3; ++k) {
+            if (numbers[k] == 1) numbers[k] = kInsteadOfOne[k];
+            if (numbers[k] < 10) numbers[k] = kInsteadOfSmall[k];
+        }
+    }
+    // Numbers of an item differ: the first of an equal pair is doubled, until none is left.
+    RetryBound bound;
+    while (true) {
+        bool changed = false;
+        for (int k = 0; k < count && !changed; ++k) {
+            for (int j = k + 1; j < count && !changed; ++j) {
+                if (numbers[k] == numbers[j]) {
+                    numbers[k] *= 2;
+                    changed = true;
+                }
+            }
+        }
+        if (!changed) break;
+        bound.Next();
+    }
+    item.numbers.assign(numbers, numbers + count);
+    item.lcm = Lcm(ws, numbers[0], numbers[1]);
+    item.gcm = Gcd(ws, numbers[0], numbers[1]);
+    if (count == 3) {
+        item.lcm = Lcm(ws, item.lcm, numbers[2]);
+        item.gcm = Gcd(ws, item.gcm, numbers[2]);
+    }
+    return item;
+}
+
+// Routine 21: lcm and gcm of two numbers, now and then of three, built from the primes
+// 2, 3, 5 and 7 so that they share factors.
+void LcmAndGcmOfNaturalNumbers(GeneratorWorkspace& ws) {
+    if (ws.DescribeMode) {
+        Describe(ws, {"010", "Natural numbers", "020", "2", "026", "Lcm and gcm of natural numbers",
+                      "Least common multiple and greatest common measure of natural numbers (2 types)"});
+        return;
+    }
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
+    for (int i = 1; i <= drill.Count(); ++i) {
+        // Both coins are always drawn: three numbers one time in twenty.
+        int countChoice = 1;
+        if (Coin(ws, 0.9f)) countChoice = 2;
+        if (Coin(ws, 0.5f)) countChoice = 1;
+        const int count = countChoice == 2 ? 3 : 2;
+        std::string text;
+        LcmGcmItem item;
+        RetryBound bound;
+        while (true) {
+            item = DrawLcmGcmNumbers(ws, count);
+            text.clear();
+            for (std::size_t k = 0; k < item.numbers.size(); ++k) {
+                if (k > 0) text += ",  ";
+                text += PlainNumberText(item.numbers[k]);
+            }
+            if (!drill.IsRepeat(text)) break;
+            bound.Next();
+        }
+        drill.AddItem(text, PlainNumberText(item.lcm) + ",  " + PlainNumberText(item.gcm));
+    }
+    drill.WriteStatement({"Calculate the least common multiple and the greatest common measure (lcm and gcm) of the "
+                          "following numbers:&LF",
+                          "Find the least common multiple and the greatest common measure (lcm and gcm) of the "
+                          "following numbers:&LF"});
 }

@@ -1,0 +1,151 @@
+#include "generators/item_drill.h"
+#include "generators/nrp/nrp_routines.h"
+#include "mathservices/arithmetic.h"
+#include "mathservices/faults.h"
+#include "mathservices/number_markup.h"
+
+namespace {
+const std::vector<std::string> kDecimalHeadLines = {
+    "Calculate the following expressions involving decimal numbers.&LF", "Calculate the following expressions.&LF",
+    "Calculate these expressions involving decimal numbers.&LF", "Calculate these expressions.&LF"};
+
+// A whole number ending in 0 gets a last digit of 1 to 9, so that the decimal made from
+// it shows all its places.
+double EndInDigit(GeneratorWorkspace& ws, double x) {
+    if (x == Int(x / 10) * 10) x += RandomInRange(ws, 1, 9, 1, 1);
+    return x;
+}
+
+bool HasDecimals(double x) { return !IsWhole(x); }
+} // namespace
+
+// Routine 14: sums and differences of decimals with up to three decimal places; the
+// operations alternate as in the natural-number drill.
+void AdditionAndSubtractionOfDecimalNumbers(GeneratorWorkspace& ws) {
+    if (ws.DescribeMode) {
+        Describe(ws, {"030", "Decimal numbers", "001", "2", "026", "Addition and subtraction of decimal numbers",
+                      "Exercises to practice addition and subtraction of decimal numbers (2 types)"});
+        return;
+    }
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
+    double operation = RandomInRange(ws, 1, 2, 1, 1);
+    for (int i = 1; i <= drill.Count(); ++i) {
+        operation += 1;
+        if (operation > 2) operation = 1;
+        // Both coins are always drawn, whatever the operation.
+        const bool toSubtraction = Coin(ws, 0.9f);
+        if (operation == 1 && toSubtraction) operation = 2;
+        const bool toAddition = Coin(ws, 0.9f);
+        if (operation == 2 && toAddition) operation = 1;
+        std::string text;
+        double result = 0;
+        RetryBound bound;
+        while (true) {
+            double a = RandomInRange(ws, 100000, 999999, 1, 1);
+            double b = RandomInRange(ws, 100000, 999999, 1, 1);
+            for (int coin = 0; coin < 3; ++coin) {
+                if (Coin(ws, 0.6f)) a = Int(a / 10);
+            }
+            for (int coin = 0; coin < 3; ++coin) {
+                if (Coin(ws, 0.6f)) b = Int(b / 10);
+            }
+            a = EndInDigit(ws, a);
+            b = EndInDigit(ws, b);
+            for (int coin = 0; coin < 3; ++coin) {
+                if (Coin(ws, 0.6f)) a = RoundAtPosition(ws, a / 10, -6);
+            }
+            for (int coin = 0; coin < 3; ++coin) {
+                if (Coin(ws, 0.6f)) b = RoundAtPosition(ws, b / 10, -6);
+            }
+            // A difference is never negative: mostly the minuend is made as the sum of the
+            // two, which keeps the subtrahend; otherwise the larger number goes first.
+            const bool keepSubtrahend = Coin(ws, 0.6f);
+            if (operation == 2) {
+                if (keepSubtrahend && a > 1) {
+                    b = RoundAtPosition(ws, a + b, -6);
+                } else if (b < a) {
+                    std::swap(a, b);
+                }
+            }
+            text = NumberToMarkup(b) + (operation == 1 ? " + " : " - ") + NumberToMarkup(a);
+            result = RoundAtPosition(ws, operation == 1 ? b + a : b - a, -6);
+            const bool refused = a == b || (!HasDecimals(a) && !HasDecimals(b));
+            if (!refused && !drill.IsRepeat(text)) break;
+            bound.Next();
+        }
+        drill.AddItem(text, NumberToMarkup(result));
+    }
+    drill.WriteStatement(kDecimalHeadLines);
+}
+
+// Routine 15: products of two decimals of four digits with up to three decimal places.
+void MultiplicationOfDecimalNumbers(GeneratorWorkspace& ws) {
+    if (ws.DescribeMode) {
+        Describe(ws, {"030", "Decimal numbers", "002", "2", "026", "Multiplication of decimal numbers",
+                      "Exercises to practice multiplication of decimal numbers (1 type)"});
+        return;
+    }
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
+    for (int i = 1; i <= drill.Count(); ++i) {
+        std::string text;
+        double product = 0;
+        RetryBound bound;
+        while (true) {
+            double a = EndInDigit(ws, RandomInRange(ws, 1000, 9999, 1, 1));
+            double b = EndInDigit(ws, RandomInRange(ws, 1000, 9999, 1, 1));
+            for (int coin = 0; coin < 2; ++coin) {
+                if (Coin(ws, 0.6f)) a = RoundAtPosition(ws, a / 10, -6);
+            }
+            for (int coin = 0; coin < 2; ++coin) {
+                if (Coin(ws, 0.6f)) b = RoundAtPosition(ws, b / 10, -6);
+            }
+            // One of the two always has a decimal more, so that no item is whole.
+            if (Coin(ws, 0.5f)) {
+                a = RoundAtPosition(ws, a / 10, -6);
+            } else {
+                b = RoundAtPosition(ws, b / 10, -6);
+            }
+            text = NumberToMarkup(a) + " × " + NumberToMarkup(b);
+            product = RoundAtPosition(ws, a * b, -9);
+            if (!drill.IsRepeat(text)) break;
+            bound.Next();
+        }
+        drill.AddItem(text, NumberToMarkup(product));
+    }
+    drill.WriteStatement(kDecimalHeadLines);
+}
+
+// Routine 2: quotients of decimals that end: the dividend is made from divisor and
+// quotient.
+void DivisionOfDecimalNumbers(GeneratorWorkspace& ws) {
+    if (ws.DescribeMode) {
+        Describe(ws, {"030", "Decimal numbers", "003", "2", "026", "Division of decimal numbers",
+                      "Exercises to practice division of decimal numbers (1 type)"});
+        return;
+    }
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
+    for (int i = 1; i <= drill.Count(); ++i) {
+        std::string text;
+        double quotient = 0;
+        RetryBound bound;
+        while (true) {
+            double divisor = RandomInRange(ws, 1000, 9999, 1, 1);
+            quotient = RandomInRange(ws, 1000, 9999, 1, 1);
+            // The divisor loses up to two digits, then both end in a digit that is not 0.
+            if (Coin(ws, 0.6f)) divisor = Int(divisor / 10);
+            if (Coin(ws, 0.6f)) divisor = Int(divisor / 10);
+            divisor = EndInDigit(ws, divisor);
+            quotient = EndInDigit(ws, quotient);
+            if (Coin(ws, 0.6f)) divisor = RoundAtPosition(ws, divisor / 10, -6);
+            if (Coin(ws, 0.6f)) quotient = RoundAtPosition(ws, quotient / 10, -6);
+            if (Coin(ws, 0.6f)) quotient = RoundAtPosition(ws, quotient / 10, -6);
+            if (!HasDecimals(divisor) && !HasDecimals(quotient)) quotient = RoundAtPosition(ws, quotient / 10, -6);
+            const double dividend = RoundAtPosition(ws, divisor * quotient, -9);
+            text = NumberToMarkup(dividend) + " : " + NumberToMarkup(divisor);
+            if (!drill.IsRepeat(text)) break;
+            bound.Next();
+        }
+        drill.AddItem(text, NumberToMarkup(quotient));
+    }
+    drill.WriteStatement(kDecimalHeadLines);
+}

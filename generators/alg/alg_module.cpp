@@ -6,5 +6,7 @@ GeneratorModule MakeKvolMathAlg() {
     return {"KVOL_MATH_ALG",
             5,
             {
+                {4, DiscussSystemWithoutParameter},
+                {5, DiscussSystemWithParameter},
             }};
 }

@@ -6,5 +6,7 @@ GeneratorModule MakeKvolMathGa3() {
     return {"KVOL_MATH_GA3",
             8,
             {
+                {5, PlaneAndLineWithoutParameter},
+                {6, PlaneAndLineWithParameter},
             }};
 }

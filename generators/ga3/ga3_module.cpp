@@ -6,7 +6,10 @@ GeneratorModule MakeKvolMathGa3() {
     return {"KVOL_MATH_GA3",
             8,
             {
+                {4, AlignmentCoplanarityDistance},
                 {5, PlaneAndLineWithoutParameter},
                 {6, PlaneAndLineWithParameter},
+                {7, TwoLinesWithoutParameter},
+                {8, TwoLinesWithParameter},
             }};
 }

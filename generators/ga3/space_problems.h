@@ -1,0 +1,43 @@
+#pragma once
+#include <string>
+
+#include "generators/ga3/space_tools.h"
+
+// The records that the space geometry problems are written from; the tests check their
+// mathematics.
+
+// Routine 4. type 0: coplanar points A, B, C, D; 1: aligned points A, B, C; 2 and 3: the
+// distance from P to a plane (two answers; one answer with the letter positive).
+struct PointsProblem {
+    int type = 0;
+    std::string letter;
+    int column = 0;       // the co-ordinate of the last point that the letter replaces
+    Vec3 A, B, C, D;      // D is the last point of type 0, C of type 1, P = A of types 2 and 3
+    Plane plane;          // types 2 and 3
+    double distance = 0;  // types 2 and 3
+    double value1 = 0;    // the answer (types 2, 3: the answer kept by type 3)
+    double value2 = 0;    // the second answer of type 2, the rejected one of type 3
+};
+PointsProblem BuildPointsProblem(GeneratorWorkspace& ws, int type);
+
+// Routine 7: 0 coincident, 1 parallel, 2 meeting in a point, 3 crossing.
+struct TwoLines {
+    int kind = 0;
+    Line3 first, second;
+    Vec3 meeting;  // kind 2
+};
+TwoLines BuildTwoLines(GeneratorWorkspace& ws, int kind);
+
+// Routine 8: a letter in the second line. kind 0: in a co-ordinate of its point (meet at
+// the critical value, cross elsewhere); 1: in its direction with the point on the first
+// line (coincident at the critical value, meet elsewhere); 2: in its direction with the
+// point off the first line (parallel at the critical value, cross elsewhere).
+struct TwoLinesWithLetter {
+    int kind = 0;
+    std::string letter;
+    int column = 0;
+    Line3 first, second;  // second holds the critical value in the letter's place
+    double critical = 0;
+    Vec3 meeting;  // kinds 0 and 1
+};
+TwoLinesWithLetter BuildTwoLinesWithLetter(GeneratorWorkspace& ws, int kind);

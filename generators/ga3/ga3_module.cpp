@@ -6,6 +6,7 @@ GeneratorModule MakeKvolMathGa3() {
     return {"KVOL_MATH_GA3",
             8,
             {
+                {1, SpaceVectors},
                 {4, AlignmentCoplanarityDistance},
                 {5, PlaneAndLineWithoutParameter},
                 {6, PlaneAndLineWithParameter},

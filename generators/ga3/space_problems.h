@@ -41,3 +41,23 @@ struct TwoLinesWithLetter {
     Vec3 meeting;  // kinds 0 and 1
 };
 TwoLinesWithLetter BuildTwoLinesWithLetter(GeneratorWorkspace& ws, int kind);
+
+// Routine 1, by the remainder of the seed by 12 (type):
+//  0 magnitudes, dot product and angle of u, v;  1 angles of u, v and of a, b;
+//  2 unit vectors of u and a;  3 s = x·u + y·v + z·w, answers x, y, z;
+//  4 u(u0, h, u2) ⟂ v(v0, v1, k) with |u| = magnitude and h > 0, answers h, k;
+//  5 a unit vector perpendicular to u and v;  6 v = factor·u with the letter h in column:
+//    answers parallel, orthogonal, and ±(value) for |v|² = magnitude2;
+//  7 u, v, w with the letter in w's column: independent unless h = answers[0];
+//  8 u × v and a × b;  9 parallelogram on u, v;  10 triangle on u, v;  11 volume on u, v, w.
+struct VectorsProblem {
+    int type = 0;
+    std::string h, k;  // the two letters
+    Vec3 u, v, w, s, a, b;
+    int column = 0;
+    double factor = 0;
+    double magnitude = 0;   // type 4: |u|
+    double magnitude2 = 0;  // type 6: |v|² asked
+    double answers[3] = {0, 0, 0};
+};
+VectorsProblem BuildVectorsProblem(GeneratorWorkspace& ws, int type);

@@ -7,6 +7,8 @@ GeneratorModule MakeKvolMathGa3() {
             8,
             {
                 {1, SpaceVectors},
+                {2, PlaneCalculations},
+                {3, LineCalculations},
                 {4, AlignmentCoplanarityDistance},
                 {5, PlaneAndLineWithoutParameter},
                 {6, PlaneAndLineWithParameter},

@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <vector>
 
 #include "generators/ga3/space_tools.h"
 
@@ -61,3 +62,34 @@ struct VectorsProblem {
     double answers[3] = {0, 0, 0};
 };
 VectorsProblem BuildVectorsProblem(GeneratorWorkspace& ws, int type);
+
+// The type of a progressive routine (planes: 13 types, lines: 8) from the group size and
+// the place in the group; a group size of 0 divides by zero, as it always has.
+int ProgressiveType(GeneratorWorkspace& ws, int typeCount);
+
+// Routine 2: the plane that the statement describes, and the data of the statement.
+//  points: the points it contains; vectors: directions it is parallel to;
+//  lines[0], lines[1]: the lines of the statement; given: the plane of types 4 and 9;
+//  normal: the vector of type 5.
+struct PlaneProblem {
+    int type = 1;
+    Plane answer;
+    std::vector<Vec3> points;
+    std::vector<Vec3> vectors;
+    std::vector<Line3> lines;
+    Plane given;
+    Vec3 normal;
+};
+PlaneProblem BuildPlaneProblem(GeneratorWorkspace& ws, int type);
+
+// Routine 3: the line that the statement describes (its direction without zero
+// components), and the data of the statement.
+struct LineProblem {
+    int type = 1;
+    Line3 answer;
+    std::vector<Vec3> points;
+    Vec3 vector;
+    std::vector<Line3> lines;
+    Plane plane;
+};
+LineProblem BuildLineProblem(GeneratorWorkspace& ws, int type);

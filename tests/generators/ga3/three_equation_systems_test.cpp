@@ -4,6 +4,8 @@
 
 #include "generators/ga3/three_equation_systems.h"
 #include "generators/hub.h"
+#include "mathservices/number_markup.h"
+#include "mathservices/poly_markup.h"
 #include "space_checks.h"
 #include "support/generator_sweep.h"
 
@@ -97,6 +99,22 @@ TEST(ThreeEquationSystems, SweepsAndEveryCaseOccurs) {
     std::set<std::string> systemCases, lineCases;
     SweepRoutine("KVOL_MATH_ALG", 4, 2000, [&](const GeneratedProblem& p) {
         systemCases.insert(p.solution.substr(0, 40));
+        // The text shows the rows and the answer of the system that was built.
+        GeneratorWorkspace ws;
+        SeedWorkspace(ws, p.fields.Seed);
+        const ThreeEquationSystem s = BuildSystemWithoutParameter(ws, static_cast<SystemCase>(p.fields.Seed % 3));
+        for (const auto& row : s.rows)
+            EXPECT_TRUE(Contains(p.statement, LinearFormToMarkup(row.a.x, row.a.y, row.a.z, row.d, false))) << p.code;
+        if (s.kind == SystemCase::Determinate) {
+            EXPECT_TRUE(Contains(p.solution, "&+I x = " + PlainNumberText(s.solution.x) + ",   y = " +
+                                                 PlainNumberText(s.solution.y) + ",   z = &-I" +
+                                                 PlainNumberText(s.solution.z)))
+                << p.code;
+        }
+        if (s.kind == SystemCase::Indeterminate) {
+            const Line3& l = s.solutionLine;
+            EXPECT_TRUE(Contains(p.solution, "x = " + AffineMarkup(l.point.x, l.direction.x, "&lambda") + ",")) << p.code;
+        }
         EXPECT_TRUE(Contains(p.statement, "#NES(X}#RWS(R#RW1(")) << p.code;
         EXPECT_FALSE(Contains(p.statement, "#RW1(& =& ")) << p.code;
     });

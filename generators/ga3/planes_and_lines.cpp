@@ -121,7 +121,7 @@ void PlaneCalculations(GeneratorWorkspace& ws) {
     const PlaneProblem q = BuildPlaneProblem(ws, type);
     std::string lines[2];
     for (std::size_t i = 0; i < q.lines.size(); ++i)
-        lines[i] = LineMarkup(ws, q.lines[i], DrawLineForm(ws, false), i == 0 ? "&+I&lambda&-I" : "&+I&mu&-I");
+        lines[i] = LineMarkup(ws, q.lines[i], DrawLineForm(ws, 4), i == 0 ? "&+I&lambda&-I" : "&+I&mu&-I");
     auto point = [&](int i) { return PointMarkup(ws, std::string(1, static_cast<char>('A' + i)), q.points[i]); };
     const std::string start = "Find the equation of the plane that ";
     switch (type) {
@@ -249,7 +249,7 @@ void LineCalculations(GeneratorWorkspace& ws) {
         // Type 4 gives the line as two planes; type 3 in one of the other forms.
         const LineForm form = type == 4 ? LineForm::General
                                         : (type == 3 ? static_cast<LineForm>(RandomInRange(ws, 0, 2, 1, 0))
-                                                     : DrawLineForm(ws, false));
+                                                     : DrawLineForm(ws, 4));
         lines[i] = LineMarkup(ws, q.lines[i], form, i == 0 ? "&+I&lambda&-I" : "&+I&mu&-I");
     }
     const std::string start = "Find the symmetric form equation of the line that ";

@@ -177,8 +177,8 @@ void TwoLinesWithoutParameter(GeneratorWorkspace& ws) {
     }
     const int kind = ws.Seed % 4;
     const TwoLines t = BuildTwoLines(ws, kind);
-    const LineForm f1 = DrawLineForm(ws, false);
-    const LineForm f2 = DrawLineForm(ws, false);
+    const LineForm f1 = DrawLineForm(ws, 3);
+    const LineForm f2 = DrawLineForm(ws, 3);
     ws.Statement = "Discuss the relative position of the following lines. Find the intersection point if possible.&LF"
                    "&SP=10:&+IL&-I_1& :& & " + LineMarkup(ws, t.first, f1, "&+I&lambda&-I") +
                    ",        &+IL&-I_2& :& & " + LineMarkup(ws, t.second, f2, "&+I&mu&-I") + "&LF";
@@ -247,8 +247,8 @@ void TwoLinesWithParameter(GeneratorWorkspace& ws) {
     const TwoLinesWithLetter t = BuildTwoLinesWithLetter(ws, kind);
     const std::string& k = t.letter;
     const std::string critical = PlainNumberText(t.critical);
-    const LineForm f1 = DrawLineForm(ws, false);
-    const LineForm f2 = DrawLineForm(ws, true);
+    const LineForm f1 = DrawLineForm(ws, 3);
+    const LineForm f2 = DrawLineForm(ws, 2);
     const auto texts = LetterAt(t.column, k);
     const std::string second = kind == 0 ? LineMarkup(ws, t.second, f2, "&+Is&-I", texts, {})
                                          : LineMarkup(ws, t.second, f2, "&+Is&-I", {}, texts);

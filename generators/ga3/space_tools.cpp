@@ -100,7 +100,6 @@ std::string SymmetricLineMarkup(GeneratorWorkspace& ws, const Line3& line) {
     return LineMarkup(ws, line, LineForm::Continuous, "&+I&lambda&-I");
 }
 
-LineForm DrawLineForm(GeneratorWorkspace& ws, bool withText) {
-    const int form = static_cast<int>(RandomInRange(ws, 0, withText ? 2 : 3, 1, 0));
-    return static_cast<LineForm>(form);
+LineForm DrawLineForm(GeneratorWorkspace& ws, int highest) {
+    return static_cast<LineForm>(static_cast<int>(RandomInRange(ws, 0, highest, 1, 0)));
 }

@@ -71,7 +71,8 @@ std::string LineMarkup(GeneratorWorkspace& ws, const Line3& line, LineForm form,
                        const std::array<std::string, 3>& directionTexts = {});
 // The symmetric (continuous) form of a line, the textbook answer of a line.
 std::string SymmetricLineMarkup(GeneratorWorkspace& ws, const Line3& line);
-// A form for a line of a statement: 0..3 (vector, parametric, continuous, the pair of
-// planes); lines with a parameter in them take 0..2, since the pair of planes is
+// A form for a line of a statement: one draw of 0..highest (vector, parametric,
+// continuous, the pair of planes; 4 is the pair of planes too, since space has no
+// slope-intercept form). Lines with a parameter in them take 0..2: the pair of planes is
 // computed from numbers.
-LineForm DrawLineForm(GeneratorWorkspace& ws, bool withText);
+LineForm DrawLineForm(GeneratorWorkspace& ws, int highest);

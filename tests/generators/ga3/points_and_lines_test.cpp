@@ -52,7 +52,9 @@ TEST(PointsProblems, TheAnswerAndOnlyItSolvesTheCondition) {
             const bool answer = v == p.value1 || (type == 2 && v == p.value2);
             EXPECT_EQ(holds, answer) << "seed " << seed << " value " << v;
         }
-        if (type == 2) EXPECT_NE(p.value1, p.value2) << seed;
+        if (type == 2) {
+            EXPECT_NE(p.value1, p.value2) << seed;
+        }
     }
 }
 

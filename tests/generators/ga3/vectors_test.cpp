@@ -93,7 +93,9 @@ TEST(SpaceVectors, SweepAnglesAreasAndVolumesInTheText) {
                                                  " u^3.&LF"))
                 << g.code;
         }
-        if (p.type == 0) EXPECT_TRUE(Contains(g.solution, "& =& " + std::to_string(static_cast<int>(Dot(p.u, p.v))) + "&LF"));
+        if (p.type == 0) {
+            EXPECT_TRUE(Contains(g.solution, "& =& " + std::to_string(static_cast<int>(Dot(p.u, p.v))) + "&LF")) << g.code;
+        }
     });
     EXPECT_EQ(types.size(), 12u);
 }

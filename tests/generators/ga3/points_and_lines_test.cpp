@@ -97,6 +97,14 @@ TEST(TwoLines, SweepAndEveryPositionOccurs) {
     std::set<std::string> answers;
     SweepRoutine("KVOL_MATH_GA3", 7, 2000, [&](const GeneratedProblem& g) {
         answers.insert(g.solution.substr(0, 22));
+        GeneratorWorkspace ws;
+        SeedWorkspace(ws, g.fields.Seed);
+        const TwoLines t = BuildTwoLines(ws, g.fields.Seed % 4);
+        if (t.kind == 2) {
+            EXPECT_EQ(g.solution, "&SP=10:Intersect at the point  &+IP&-I (" + PlainNumberText(t.meeting.x) + ",  " +
+                                      PlainNumberText(t.meeting.y) + ",  " + PlainNumberText(t.meeting.z) + ")&LF")
+                << g.code;
+        }
         EXPECT_TRUE(Contains(g.statement, "&SP=10:&+IL&-I_1& :& & ")) << g.code;
         EXPECT_FALSE(Contains(g.statement, "#N)(0#COC)")) << g.code;
     });

@@ -141,6 +141,22 @@ TEST(ThreeEquationSystems, ParameterLetterIsTheSameInStatementAndSolution) {
             const std::string tag = std::string("&+I") + letter + "&-I";
             EXPECT_TRUE(Contains(p.solution, tag + " = ")) << p.code;
             EXPECT_TRUE(Contains(p.solution, tag + " &!= ")) << p.code;
+            // The critical and the stated value of the system that was built.
+            GeneratorWorkspace ws;
+            SeedWorkspace(ws, p.fields.Seed);
+            const SystemCase kind = p.fields.Seed % 2 == 0 ? SystemCase::Incompatible : SystemCase::Indeterminate;
+            const ThreeEquationSystem s = BuildSystemWithParameter(ws, kind, letters);
+            EXPECT_EQ(s.letter, tag) << p.code;
+            const std::string excluded = tag + " &!= " + PlainNumberText(s.criticalValue);
+            EXPECT_TRUE(Contains(p.solution, excluded + ".") || Contains(p.solution, excluded + ":")) << p.code;
+            if (routine == 6 || kind == SystemCase::Incompatible) {
+                EXPECT_TRUE(Contains(p.statement, "parameter is  " + PlainNumberText(s.statedValue) + ".&LF")) << p.code;
+            }
+            const std::string point = PlainNumberText(s.solution.x) + ",  " + PlainNumberText(s.solution.y) + ",  " +
+                                      PlainNumberText(s.solution.z) + ")&LF";
+            if (routine == 6) {
+                EXPECT_TRUE(Contains(p.solution, "&+IP&-I (" + point)) << p.code;
+            }
             for (char other : letters) {
                 if (other != letter) {
                     EXPECT_FALSE(Contains(p.solution, std::string("&+I") + other + "&-I")) << p.code;

@@ -6,5 +6,10 @@ GeneratorModule MakeKvolMathAlg() {
     return {"KVOL_MATH_ALG",
             5,
             {
+                {1, MatrixEquation},
+                {2, SystemOfMatrixEquations},
+                {3, ParameterDeterminantAndInverse},
+                {4, DiscussSystemWithoutParameter},
+                {5, DiscussSystemWithParameter},
             }};
 }

@@ -6,6 +6,14 @@ GeneratorModule MakeKvolMathNrp() {
     return {"KVOL_MATH_NRP",
             39,
             {
+                {3, AlgebraicFractionsProducts},
+                {4, AlgebraicFractionsSums},
                 {12, AdditionAndSubtractionOfNaturalNumbers},
+                {16, AdditionAndSubtractionOfPolynomials},
+                {17, MultiplicationAndPowerOfBinomials},
+                {18, FactoringPolynomials},
+                {19, DivisionOfPolynomials},
+                {20, DivisionOfPolynomialsInvolvingParameters},
+                {26, SimplifyingAlgebraicFractions},
             }};
 }

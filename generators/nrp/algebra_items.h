@@ -46,3 +46,21 @@ struct ParameterDivisionItem {  // routine 20
     double remainder = 0;
 };
 ParameterDivisionItem MakeParameterDivisionItem(GeneratorWorkspace& ws);
+
+struct AngleItem {  // routines 27 to 31
+    double first = 0;   // seconds of arc
+    double second = 0;  // seconds of arc (operations 1 and 2)
+    double factor = 1;  // operations 3 and 4
+    double result = 0;  // seconds of arc
+};
+// operation 1 adds, 2 subtracts, 3 multiplies, 4 divides.
+AngleItem MakeAngleItem(GeneratorWorkspace& ws, int operation);
+std::string AngleItemText(const AngleItem& item, int operation);
+
+struct ShapeAngles {  // routine 32
+    int shape = 0;               // Seed modulo 5
+    std::vector<double> given;   // seconds of arc
+    double answer = 0;           // seconds of arc
+    double total = 0;            // the sum that the angles make, in seconds
+};
+ShapeAngles MakeShapeAngles(GeneratorWorkspace& ws, int shape);

@@ -15,5 +15,11 @@ GeneratorModule MakeKvolMathNrp() {
                 {19, DivisionOfPolynomials},
                 {20, DivisionOfPolynomialsInvolvingParameters},
                 {26, SimplifyingAlgebraicFractions},
+                {27, AddingAngleMeasures},
+                {28, SubtractingAngleMeasures},
+                {29, MultiplyingAngleMeasures},
+                {30, DividingAngleMeasures},
+                {31, ComplementaryAndSupplementaryAngles},
+                {32, AnglesInTrianglesAndShapes},
             }};
 }

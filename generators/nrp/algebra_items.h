@@ -64,3 +64,11 @@ struct ShapeAngles {  // routine 32
     double total = 0;            // the sum that the angles make, in seconds
 };
 ShapeAngles MakeShapeAngles(GeneratorWorkspace& ws, int shape);
+
+struct ComplexParameterProblem {  // routine 39
+    int type = 0;        // Seed modulo 5
+    std::string letter;  // the parameter
+    double zRe = 0, zIm = 0, wRe = 0, wIm = 0;  // with the parameter's value in its place
+    double value = 0;    // of the parameter
+};
+ComplexParameterProblem MakeComplexParameterProblem(GeneratorWorkspace& ws, int type);

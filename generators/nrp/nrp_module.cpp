@@ -21,5 +21,12 @@ GeneratorModule MakeKvolMathNrp() {
                 {30, DividingAngleMeasures},
                 {31, ComplementaryAndSupplementaryAngles},
                 {32, AnglesInTrianglesAndShapes},
+                {33, AddingAndSubtractingComplexNumbers},
+                {34, MultiplyingAndDividingComplexNumbers},
+                {35, CartesianPolarConversions},
+                {36, MultiplyingAndDividingComplexNumbersInPolarForm},
+                {37, PowersOfComplexNumbers},
+                {38, RootsOfComplexNumbers},
+                {39, ComplexNumberParameter},
             }};
 }

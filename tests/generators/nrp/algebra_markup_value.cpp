@@ -169,6 +169,7 @@ std::optional<std::complex<double>> MarkupValue(const std::string& markup, std::
     std::string s = markup;
     for (const char* code : {"&+I", "&-I", "&+B", "&-B"}) s = ReplaceAllText(s, code, "");
     s = ReplaceAllText(s, "&pi", "P");
+    s = ReplaceAllText(s, "&E", "e");
     s = ReplaceAllText(s, "& ", " ");
     s = ReplaceAllText(s, "&.", ".");
     s = ReplaceAllText(s, "_ ", "");
@@ -246,4 +247,13 @@ double ReadSeconds(const std::string& text) {
 bool Near(std::complex<double> a, std::complex<double> b, double relative) {
     const double scale = std::max({1.0, std::abs(a), std::abs(b)});
     return std::abs(a - b) <= relative * scale;
+}
+
+bool AllDistinct(const std::vector<std::string>& texts) {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            if (texts[i] == texts[j]) return false;
+        }
+    }
+    return true;
 }

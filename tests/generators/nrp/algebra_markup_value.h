@@ -19,3 +19,6 @@ std::vector<std::string> LetteredTexts(const std::string& text, const std::strin
 double ReadSeconds(const std::string& text);
 
 bool Near(std::complex<double> a, std::complex<double> b, double relative);
+
+// True when no two texts are equal.
+bool AllDistinct(const std::vector<std::string>& texts);

@@ -38,10 +38,19 @@ std::string ComplexFractionText(GeneratorWorkspace& ws, double reN, double reD, 
     return text;
 }
 
-// The modulus √m of a polar form, with its square factors taken out.
-std::string ModulusText(GeneratorWorkspace& ws, double modulusSquared) {
-    return RootFractionToMarkup(ws, 1, modulusSquared, 1);
+// a·√r with the square factors of r taken out: 3√34 rather than √306.
+std::string SimplifiedRoot(GeneratorWorkspace& ws, double a, double r) {
+    for (double d = 2; d * d <= r; ++d) {
+        while (FractionalPart(ws, r / (d * d)) == 0) {
+            r /= d * d;
+            a *= d;
+        }
+    }
+    return RootFractionToMarkup(ws, a, r, 1);
 }
+
+// The modulus √m of a polar form, simplified.
+std::string ModulusText(GeneratorWorkspace& ws, double modulusSquared) { return SimplifiedRoot(ws, 1, modulusSquared); }
 
 // A polar form whose modulus is written from the square of the modulus given exactly
 // (large powers would lose it in the floating root).
@@ -202,7 +211,7 @@ void CartesianPolarConversions(GeneratorWorkspace& ws) {
         while (true) {
             std::string text, answer;
             if (direction == 1) {
-                const Complex z = DrawComplex(ws, -12, 12);
+                const Complex z = DrawComplex(ws, -12, 28);
                 text = ComplexToMarkup(ws, z.real(), z.imag());
                 answer = PolarText(ws, z.real(), z.imag(), unit);
             } else {
@@ -294,7 +303,7 @@ void PowersOfComplexNumbers(GeneratorWorkspace& ws) {
                     for (int k = 0; k < n; ++k) p *= Complex(re, im);
                     const double half = std::floor(n / 2.0);
                     const std::string modulus = n % 2 == 0 ? PlainNumberText(std::pow(m, half))
-                                                           : RootFractionToMarkup(ws, std::pow(m, half), m, 1);
+                                                           : SimplifiedRoot(ws, std::pow(m, half), m);
                     drill.AddItem(text, PolarText(ws, modulus, p.real(), p.imag(), unit) + "  =  " +
                                             ComplexToMarkup(ws, p.real(), p.imag()));
                     break;
@@ -339,7 +348,7 @@ void RootsOfComplexNumbers(GeneratorWorkspace& ws) {
             }
             std::string modulus;
             if (index == 1) modulus = PlainNumberText(radicand);
-            else if (index == 2) modulus = RootFractionToMarkup(ws, 1, radicand, 1);
+            else if (index == 2) modulus = SimplifiedRoot(ws, 1, radicand);
             else modulus = "#RAD(#RI(" + PlainNumberText(index) + " #RI)" + PlainNumberText(radicand) + "#RAD)";
             double argument = std::atan2(z.imag(), z.real()) * 180 / kPi;
             if (argument < 0) argument += 360;

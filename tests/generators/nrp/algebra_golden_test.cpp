@@ -321,19 +321,21 @@ const Golden kGolden[] = {
      ")(-11& +& 12&+I& i&-I#COC)&LF&LF",
      "&SP=10:&-I&+Ba)&-B   #COC(-346#N)(265#COC)& -& #COC(257#N)(265#COC)&+I& i&-I&LF"},
     {"0350001234030101",
-     "Calculate these expressions involving complex numbers.&LF&SP=5:&+Ba)&-B  1& +& 4&+I& i&-I&SP=29:&+Bb"
-     ")&-B  9& -& 4&+I& i&-I&SP=53:&+Bc)&-B  11#SPB(L #T)(120°#SPB)&LF&LF",
-     "&SP=10:&-I&+Ba)&-B #SQR(17#SQR)#SPB(L #T)(75&.9638°#SPB)&SP=50:&-I&+Bb)&-B #SQR(97#SQR)#SPB(L #T)(33"
-     "6&.038°#SPB)&LF&SP=10:&-I&+Bc)&-B   #COC(-11#N)(2#COC)& +& #COC(11#SQR(3#SQR)#N)(2#COC)&+I& i&-I&LF"},
+     "Calculate these expressions involving complex numbers.&LF&SP=5:&+Ba)&-B  9& +& 15&+I& i&-I&SP=29:&+B"
+     "b)&-B  23& +& &+I& i&-I&SP=53:&+Bc)&-B  11#SPB(L #T)(120°#SPB)&LF&LF",
+     "&SP=10:&-I&+Ba)&-B 3#SQR(34#SQR)#SPB(L #T)(59&.0362°#SPB)&SP=50:&-I&+Bb)&-B #SQR(530#SQR)#SPB(L #T)("
+     "2&.48955°#SPB)&LF&SP=10:&-I&+Bc)&-B   #COC(-11#N)(2#COC)& +& #COC(11#SQR(3#SQR)#N)(2#COC)&+I& i&-I&L"
+     "F"},
     {"0355174071070402",
-     "Calculate these expressions.&LF&SP=5:&+Ba)&-B  4& -& 4&+I& i&-I&SP=29:&+Bb)&-B  3#SPB(L #T)(#COC(5&p"
-     "i#N)(4#COC) rad#SPB)&SP=53:&+Bc)&-B  3& +& 8&+I& i&-I&SP=76:&+Bd)&-B  6#SPB(L #T)(120°#SPB)&LF&SP=5:"
-     "&+Be)&-B  -8& +& 8&+I& i&-I&SP=29:&+Bf)&-B  11#SPB(L #T)(240°#SPB)&SP=53:&+Bg)&-B  -11&LF&LF",
-     "&SP=10:&-I&+Ba)&-B #SQR(32#SQR)#SPB(L #T)(#COC(7&pi#N)(4#COC) rad#SPB)&SP=50:&-I&+Bb)&-B -& #COC(3#S"
-     "QR(2#SQR)#N)(2#COC)& -& #COC(3#SQR(2#SQR)#N)(2#COC)&+I& i&-I&LF&SP=10:&-I&+Bc)&-B #SQR(73#SQR)#SPB(L"
-     " #T)(69&.444°#SPB)&SP=50:&-I&+Bd)&-B -3& +& 3#SQR(3#SQR)&+I& i&-I&LF&SP=10:&-I&+Be)&-B #SQR(128#SQR)"
-     "#SPB(L #T)(135°#SPB)&SP=50:&-I&+Bf)&-B   #COC(-11#N)(2#COC)& -& #COC(11#SQR(3#SQR)#N)(2#COC)&+I& i&-"
-     "I&LF&SP=10:&-I&+Bg)&-B 11#SPB(L #T)(180°#SPB)&LF"},
+     "Calculate these expressions.&LF&SP=5:&+Ba)&-B  15& +& &+I& i&-I&SP=29:&+Bb)&-B  3#SPB(L #T)(#COC(5&p"
+     "i#N)(4#COC) rad#SPB)&SP=53:&+Bc)&-B  14& +& 21&+I& i&-I&SP=76:&+Bd)&-B  6#SPB(L #T)(120°#SPB)&LF&SP="
+     "5:&+Be)&-B  -6& +& 22&+I& i&-I&SP=29:&+Bf)&-B  11#SPB(L #T)(240°#SPB)&SP=53:&+Bg)&-B  -11& +& 9&+I& "
+     "i&-I&LF&LF",
+     "&SP=10:&-I&+Ba)&-B #SQR(226#SQR)#SPB(L #T)(0&.0665682 rad#SPB)&SP=50:&-I&+Bb)&-B -& #COC(3#SQR(2#SQR"
+     ")#N)(2#COC)& -& #COC(3#SQR(2#SQR)#N)(2#COC)&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 7#SQR(13#SQR)#SPB(L #T)(56"
+     "&.3099°#SPB)&SP=50:&-I&+Bd)&-B -3& +& 3#SQR(3#SQR)&+I& i&-I&LF&SP=10:&-I&+Be)&-B 2#SQR(130#SQR)#SPB("
+     "L #T)(105&.255°#SPB)&SP=50:&-I&+Bf)&-B   #COC(-11#N)(2#COC)& -& #COC(11#SQR(3#SQR)#N)(2#COC)&+I& i&-"
+     "I&LF&SP=10:&-I&+Bg)&-B #SQR(202#SQR)#SPB(L #T)(140&.711°#SPB)&LF"},
     {"0358998999011010",
      "Calculate these expressions.&LF&SP=5:&+Ba)&-B  1#SPB(L #T)(90°#SPB)&LF&LF",
      "&SP=10:&-I&+Ba)&-B &+I& i&-I&LF"},
@@ -343,9 +345,9 @@ const Golden kGolden[] = {
      "L #T)(101&.31°#SPB)#NES)  ·  #NES(()#SQR(122#SQR)#SPB(L #T)(5&.19443°#SPB)#NES)&LF&SP=5:&+Bc)&-B  #N"
      "ES(()#SQR(8#SQR)#SPB(L #T)(135°#SPB)#NES)  ·  #NES(()#SQR(58#SQR)#SPB(L #T)(23&.1986°#SPB)#NES)&LF&L"
      "F",
-     "&SP=10:&-I&+Ba)&-B #SQR(14365#SQR)#SPB(L #T)(1&.78947 rad#SPB)  =  -26& +& 117&+I& i&-I&SP=50:&-I&+B"
-     "b)&-B #SQR(12688#SQR)#SPB(L #T)(106&.504°#SPB)  =  -32& +& 108&+I& i&-I&LF&SP=10:&-I&+Bc)&-B #SQR(46"
-     "4#SQR)#SPB(L #T)(158&.199°#SPB)  =  -20& +& 8&+I& i&-I&LF"},
+     "&SP=10:&-I&+Ba)&-B 13#SQR(85#SQR)#SPB(L #T)(1&.78947 rad#SPB)  =  -26& +& 117&+I& i&-I&SP=50:&-I&+Bb"
+     ")&-B 4#SQR(793#SQR)#SPB(L #T)(106&.504°#SPB)  =  -32& +& 108&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 4#SQR(29#"
+     "SQR)#SPB(L #T)(158&.199°#SPB)  =  -20& +& 8&+I& i&-I&LF"},
     {"0365174071070402",
      "Calculate these expressions.&LF&SP=5:&+Ba)&-B  #NES(()7#SPB(L #T)(0°#SPB)#NES)  ·  #NES(()#SQR(80#SQ"
      "R)#SPB(L #T)(333&.435°#SPB)#NES)&SP=43:&+Bb)&-B  #NES(()#SQR(5850#SQR)#SPB(L #T)(154&.44°#SPB)#NES) "
@@ -356,12 +358,12 @@ const Golden kGolden[] = {
      "°#SPB)#NES)&SP=43:&+Bf)&-B  #NES(()#SQR(13#SQR)#SPB(L #T)(303&.69°#SPB)#NES)  ·  #NES(()#SQR(58#SQR)"
      "#SPB(L #T)(113&.199°#SPB)#NES)&LF&SP=5:&+Bg)&-B  #NES(()#SQR(15826#SQR)#SPB(L #T)(23&.9162°#SPB)#NES"
      ")  :  #NES(()#SQR(82#SQR)#SPB(L #T)(353&.66°#SPB)#NES)&LF&LF",
-     "&SP=10:&-I&+Ba)&-B #SQR(3920#SQR)#SPB(L #T)(333&.435°#SPB)  =  56& -& 28&+I& i&-I&SP=50:&-I&+Bb)&-B "
-     "#SQR(50#SQR)#SPB(L #T)(98&.1301°#SPB)  =  -1& +& 7&+I& i&-I&LF&SP=10:&-I&+Bc)&-B #SQR(405#SQR)#SPB(L"
-     " #T)(63&.4349°#SPB)  =  9& +& 18&+I& i&-I&SP=50:&-I&+Bd)&-B #SQR(101#SQR)#SPB(L #T)(1&.47113 rad#SPB"
-     ")  =  1& +& 10&+I& i&-I&LF&SP=10:&-I&+Be)&-B #SQR(5617#SQR)#SPB(L #T)(161&.323°#SPB)  =  -71& +& 24&"
-     "+I& i&-I&SP=50:&-I&+Bf)&-B #SQR(754#SQR)#SPB(L #T)(56&.8887°#SPB)  =  15& +& 23&+I& i&-I&LF&SP=10:&-"
-     "I&+Bg)&-B #SQR(193#SQR)#SPB(L #T)(30&.2564°#SPB)  =  12& +& 7&+I& i&-I&LF"},
+     "&SP=10:&-I&+Ba)&-B 28#SQR(5#SQR)#SPB(L #T)(333&.435°#SPB)  =  56& -& 28&+I& i&-I&SP=50:&-I&+Bb)&-B 5"
+     "#SQR(2#SQR)#SPB(L #T)(98&.1301°#SPB)  =  -1& +& 7&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 9#SQR(5#SQR)#SPB(L #"
+     "T)(63&.4349°#SPB)  =  9& +& 18&+I& i&-I&SP=50:&-I&+Bd)&-B #SQR(101#SQR)#SPB(L #T)(1&.47113 rad#SPB) "
+     " =  1& +& 10&+I& i&-I&LF&SP=10:&-I&+Be)&-B #SQR(5617#SQR)#SPB(L #T)(161&.323°#SPB)  =  -71& +& 24&+I"
+     "& i&-I&SP=50:&-I&+Bf)&-B #SQR(754#SQR)#SPB(L #T)(56&.8887°#SPB)  =  15& +& 23&+I& i&-I&LF&SP=10:&-I&"
+     "+Bg)&-B #SQR(193#SQR)#SPB(L #T)(30&.2564°#SPB)  =  12& +& 7&+I& i&-I&LF"},
     {"0368998999011010",
      "Calculate the following expressions with complex numbers.&LF&SP=5:&+Ba)&-B  #NES(()#SQR(2210#SQR)#SP"
      "B(L #T)(3&.65282 rad#SPB)#NES)  :  #NES(()#SQR(130#SQR)#SPB(L #T)(0&.266252 rad#SPB)#NES)&LF&LF",
@@ -382,7 +384,7 @@ const Golden kGolden[] = {
      "L #T)(32&.5204°#SPB)  =  2108& +& 1344&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 73#SQR(73#SQR)#SPB(L #T)(61&.66"
      "81°#SPB)  =  296& +& 549&+I& i&-I&SP=50:&-I&+Bd)&-B 85#SQR(85#SQR)#SPB(L #T)(307&.586°#SPB)  =  478&"
      " -& 621&+I& i&-I&LF&SP=10:&-I&+Be)&-B 6400#SPB(L #T)(4&.42859 rad#SPB)  =  -1792& -& 6144&+I& i&-I&S"
-     "P=50:&-I&+Bf)&-B 40#SPB(L #T)(36&.8699°#SPB)  =  32& +& 24&+I& i&-I&LF&SP=10:&-I&+Bg)&-B 1600#SQR(40"
+     "P=50:&-I&+Bf)&-B 40#SPB(L #T)(36&.8699°#SPB)  =  32& +& 24&+I& i&-I&LF&SP=10:&-I&+Bg)&-B 3200#SQR(10"
      "#SQR)#SPB(L #T)(357&.825°#SPB)  =  10112& -& 384&+I& i&-I&LF"},
     {"0378998999011010",
      "Calculate the following expressions.&LF&SP=5:&+Ba)&-B  #NES(()#SQR(17#SQR)#SPB(L #T)(3&.38657 rad#SP"

@@ -37,6 +37,15 @@ void ExpectNoZeroPart(const std::string& answer) {
     EXPECT_EQ(answer.find("& -& 0"), std::string::npos) << answer;
 }
 
+// Every square root of an answer is free of square factors.
+void ExpectSquareFreeRoots(const std::string& answer) {
+    static const std::regex root("#SQR\\(([0-9]+)#SQR\\)");
+    for (std::sregex_iterator it(answer.begin(), answer.end(), root), end; it != end; ++it) {
+        const long r = std::stol((*it)[1].str());
+        for (long d = 2; d * d <= r; ++d) EXPECT_NE(r % (d * d), 0) << answer;
+    }
+}
+
 // "polar  =  cartesian" split in two.
 std::pair<std::string, std::string> BothForms(const std::string& answer) {
     const auto at = answer.find("  =  ");
@@ -78,6 +87,7 @@ TEST(ComplexNumbers, CartesianPolarConversions) {
             EXPECT_NE(polarItem, d.answers[i].find("#SPB(") != std::string::npos) << d.items[i] << d.answers[i];
             EXPECT_TRUE(Near(Value(d.items[i], p.code), Value(d.answers[i], p.code), 2e-5))
                 << p.code << ": " << d.items[i] << " = " << d.answers[i];
+            ExpectSquareFreeRoots(d.answers[i]);
             if (polarItem) {
                 ExpectNoZeroPart(d.answers[i]);
                 EXPECT_EQ(d.answers[i].find("&."), std::string::npos) << d.answers[i];
@@ -95,6 +105,7 @@ TEST(ComplexNumbers, PolarProductsAndQuotients) {
             EXPECT_TRUE(Near(v, Value(polar, p.code), 5e-5)) << p.code << ": " << d.items[i] << " = " << polar;
             EXPECT_TRUE(Near(v, Value(cartesian, p.code), 5e-5)) << p.code << ": " << d.items[i] << " = " << cartesian;
             EXPECT_EQ(cartesian.find("#COC("), std::string::npos) << cartesian;
+            ExpectSquareFreeRoots(polar);
         }
     });
 }
@@ -108,6 +119,7 @@ TEST(ComplexNumbers, Powers) {
             EXPECT_TRUE(Near(v, Value(polar, p.code), 1e-4)) << p.code << ": " << d.items[i] << " = " << polar;
             EXPECT_TRUE(Near(v, Value(cartesian, p.code), 1e-4)) << p.code << ": " << d.items[i] << " = " << cartesian;
             EXPECT_TRUE(std::regex_search(d.items[i], std::regex("\\)\\^[2-5]$"))) << d.items[i];
+            ExpectSquareFreeRoots(polar);
         }
     });
 }

@@ -133,8 +133,10 @@ TEST(Polynomials, DivisionQuotientAndRemainder) {
                                      ValueAt(remainder, x, p.code);
                 EXPECT_TRUE(Near(d, rebuilt, 1e-9)) << p.code << ": " << items[i] << " / " << answers[i];
             }
-            const bool byQuadratic = divisor.find("^2") != std::string::npos;
-            EXPECT_EQ(remainder.find("&+Ix"), byQuadratic ? remainder.find("&+Ix") : std::string::npos) << answers[i];
+            // By x - a the remainder is a number; by a quadratic it is at most linear.
+            if (divisor.find("^2") == std::string::npos) {
+                EXPECT_EQ(remainder.find("&+Ix"), std::string::npos) << answers[i];
+            }
             EXPECT_EQ(remainder.find("^"), std::string::npos) << answers[i];
         }
     });
@@ -154,7 +156,6 @@ TEST(Polynomials, ParameterMakesTheRemainderRight) {
         std::smatch m;
         ASSERT_TRUE(std::regex_search(p.solution, m, last)) << p.solution;
         const std::string letter = "&+I" + m[1].str() + "&-I";
-        const double value = std::stod(m[2].str());
         EXPECT_NE(s.find("the value of parameter  " + letter + "  for which"), std::string::npos) << s;
         // The letter stands once in the dividend, as a coefficient of a power of x.
         const auto at = dividend.find(letter);
@@ -171,7 +172,6 @@ TEST(Polynomials, ParameterMakesTheRemainderRight) {
         const double root = -ValueAt(divisor, 0, p.code).real();
         EXPECT_NEAR(ValueAt(dividend, root, p.code).real(), remainder, 1e-9) << p.code << ": " << s << p.solution;
         EXPECT_EQ(ValueAt(divisor, 1, p.code).real() - ValueAt(divisor, 0, p.code).real(), 1.0) << divisor;
-        (void)value;
     });
 }
 

@@ -42,7 +42,7 @@ Coefficients Expand(const Factored& f) { return PolyFromRoots(f.constant, f.root
 // Degree 4 at most: the fourth-degree writer of the single-fraction drill.
 std::string ExpandedText(GeneratorWorkspace& ws, const Factored& f, bool fourthDegreeWriter) {
     const Coefficients c = Expand(f);
-    if (fourthDegreeWriter && Degree(c) <= 4) return PolynomialToMarkup(c[4], c[3], c[2], c[1], c[0], "");
+    if (fourthDegreeWriter && PolyDegree(c) <= 4) return PolynomialToMarkup(c[4], c[3], c[2], c[1], c[0], "");
     return PolyText(ws, c);
 }
 
@@ -262,7 +262,7 @@ struct SumTerm {
     Shown denominator;
 };
 
-Coefficients Constant(double c) { return Monomial(c, 0); }
+Coefficients Constant(double c) { return PolyMonomial(c, 0); }
 Coefficients Linear(double a, double b) {
     Coefficients p{};
     p[1] = a;
@@ -337,7 +337,7 @@ void AlgebraicFractionsSums(GeneratorWorkspace& ws) {
             const Coefficients partB = MultiplyPolys(second.numerator, PolyFromRoots(1, Without(common, rootsB)));
             Coefficients numerator = minus ? SubtractPolys(partA, partB) : AddPolys(partA, partB);
             for (std::size_t j = 0; j < common.size();) {
-                if (!IsZeroPoly(numerator) && Evaluate(numerator, common[j]) == 0) {
+                if (!IsZeroPoly(numerator) && EvaluatePoly(numerator, common[j]) == 0) {
                     Coefficients quotient, remainder;
                     DividePolys(numerator, Linear(1, -common[j]), quotient, remainder);
                     numerator = quotient;

@@ -60,31 +60,31 @@ std::vector<RootCount> GroupRoots(const std::vector<double>& roots) {
 Coefficients PolyFromRoots(double constant, const std::vector<double>& roots) {
     PolyWork work;
     ExpandRoots(work, roots);
-    return Scale(work.coefficients, constant);
+    return ScalePoly(work.coefficients, constant);
 }
 
-Coefficients Monomial(double a, int k) {
+Coefficients PolyMonomial(double a, int k) {
     Coefficients r{};
     r[k] = a;
     return r;
 }
 
-Coefficients Scale(const Coefficients& a, double factor) {
+Coefficients ScalePoly(const Coefficients& a, double factor) {
     Coefficients r{};
     for (int k = 0; k <= 18; ++k) r[k] = a[k] * factor;
     return r;
 }
 
-int Degree(const Coefficients& a) {
+int PolyDegree(const Coefficients& a) {
     for (int k = 18; k >= 0; --k) {
         if (a[k] != 0) return k;
     }
     return -1;
 }
 
-bool IsZeroPoly(const Coefficients& a) { return Degree(a) < 0; }
+bool IsZeroPoly(const Coefficients& a) { return PolyDegree(a) < 0; }
 
-double Evaluate(const Coefficients& a, double x) {
+double EvaluatePoly(const Coefficients& a, double x) {
     double v = 0;
     for (int k = 18; k >= 0; --k) v = v * x + a[k];
     return v;
@@ -94,9 +94,9 @@ void DividePolys(const Coefficients& dividend, const Coefficients& divisor, Coef
                  Coefficients& remainder) {
     quotient = {};
     remainder = dividend;
-    const int d = Degree(divisor);
+    const int d = PolyDegree(divisor);
     const double lead = divisor[d];
-    for (int k = Degree(remainder); k >= d; --k) {
+    for (int k = PolyDegree(remainder); k >= d; --k) {
         const double factor = remainder[k] / lead;
         quotient[k - d] = factor;
         for (int j = 0; j <= d; ++j) remainder[k - d + j] -= factor * divisor[j];
@@ -104,7 +104,7 @@ void DividePolys(const Coefficients& dividend, const Coefficients& divisor, Coef
     }
 }
 
-double Content(GeneratorWorkspace& ws, const Coefficients& a) {
+double PolyContent(GeneratorWorkspace& ws, const Coefficients& a) {
     double g = 0;
     for (double c : a) {
         if (c != 0) g = g == 0 ? std::fabs(c) : Gcd(ws, g, c);

@@ -35,16 +35,16 @@ std::vector<RootCount> GroupRoots(const std::vector<double>& roots);
 // c · (x - r1) · (x - r2) ...
 Coefficients PolyFromRoots(double constant, const std::vector<double>& roots);
 // a·x^k as a polynomial.
-Coefficients Monomial(double a, int k);
-Coefficients Scale(const Coefficients& a, double factor);
-int Degree(const Coefficients& a);  // -1 for the zero polynomial
+Coefficients PolyMonomial(double a, int k);
+Coefficients ScalePoly(const Coefficients& a, double factor);
+int PolyDegree(const Coefficients& a);  // -1 for the zero polynomial
 bool IsZeroPoly(const Coefficients& a);
-double Evaluate(const Coefficients& a, double x);
+double EvaluatePoly(const Coefficients& a, double x);
 // Long division: dividend = quotient · divisor + remainder, deg remainder < deg divisor.
 void DividePolys(const Coefficients& dividend, const Coefficients& divisor, Coefficients& quotient,
                  Coefficients& remainder);
 // The greatest common divisor of all the coefficients (positive), 0 for the zero polynomial.
-double Content(GeneratorWorkspace& ws, const Coefficients& a);
+double PolyContent(GeneratorWorkspace& ws, const Coefficients& a);
 
 // Writes a polynomial of degree at most 9 through the scratch polynomial, in x.
 std::string PolyText(GeneratorWorkspace& ws, const Coefficients& a);

@@ -1,8 +1,10 @@
 #include "algebra_markup_value.h"
 
-#include <cmath>
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
+
+namespace algebra_test {
 
 namespace {
 using Complex = std::complex<double>;
@@ -257,3 +259,5 @@ bool AllDistinct(const std::vector<std::string>& texts) {
     }
     return true;
 }
+
+} // namespace algebra_test

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+namespace algebra_test {
+
 // Reads the value of an expression written in markup, independently of the writers that
 // made it: numbers, x, the imaginary unit, pi, + - · × :, juxtaposition, "^" with one
 // digit, parentheses, stacked fractions, "#NES(" delimiters, square roots, n-th roots and
@@ -22,3 +24,5 @@ bool Near(std::complex<double> a, std::complex<double> b, double relative);
 
 // True when no two texts are equal.
 bool AllDistinct(const std::vector<std::string>& texts);
+
+} // namespace algebra_test

@@ -6,6 +6,8 @@
 #include "generators/hub.h"
 #include "support/generator_sweep.h"
 
+using namespace algebra_test;
+
 namespace {
 const double kSamples[] = {0.37, 1.93, -2.71, 11.5};
 

@@ -8,6 +8,8 @@
 #include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
 
+using namespace algebra_test;
+
 namespace {
 // Checks one angle drill: each item recomputed from its text.
 void CheckAngleDrill(const GeneratedProblem& p, int operation) {

@@ -9,6 +9,8 @@
 #include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
 
+using namespace algebra_test;
+
 namespace {
 using Complex = std::complex<double>;
 

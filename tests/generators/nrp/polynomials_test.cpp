@@ -9,6 +9,8 @@
 #include "mathservices/poly_markup.h"
 #include "support/generator_sweep.h"
 
+using namespace algebra_test;
+
 namespace {
 const double kSamples[] = {0.37, 1.93, -2.71};
 
@@ -103,7 +105,7 @@ TEST(Polynomials, RepeatedRootGivesAnExponentAndTheExpandedProduct) {
         for (double x : kSamples) {
             double product = item.factor;
             for (double r : item.roots) product *= x - r;
-            EXPECT_NEAR(Evaluate(item.polynomial, x), product, 1e-9 * std::max(1.0, std::fabs(product))) << seed;
+            EXPECT_NEAR(EvaluatePoly(item.polynomial, x), product, 1e-9 * std::max(1.0, std::fabs(product))) << seed;
         }
     }
     EXPECT_GE(repeated, 50);
@@ -191,7 +193,7 @@ TEST(Polynomials, TextCoefficientKeepsItsDegree) {
             EXPECT_NE(text.compare(at + expected.size(), 1, "^"), 0) << text;
         }
         // The remainder theorem holds with the parameter's value in place.
-        EXPECT_EQ(Evaluate(item.coefficients, item.root), item.remainder) << seed;
+        EXPECT_EQ(EvaluatePoly(item.coefficients, item.root), item.remainder) << seed;
     }
 }
 

@@ -6,5 +6,6 @@ GeneratorModule MakeKvolMathEcu() {
     return {"KVOL_MATH_ECU",
             14,
             {
+                {14, TrigonometricEquations},
             }};
 }

@@ -6,5 +6,7 @@ GeneratorModule MakeKvolMathTri() {
     return {"KVOL_MATH_TRI",
             6,
             {
+                {3, TrigonometricIdentities},
+                {4, TrigonometricEquationsList},
             }};
 }

@@ -6,6 +6,8 @@ GeneratorModule MakeKvolMathTri() {
     return {"KVOL_MATH_TRI",
             6,
             {
+                {1, TrigValuesFromAnother},
+                {2, TrigValuesFromTwoOthers},
                 {3, TrigonometricIdentities},
                 {4, TrigonometricEquationsList},
             }};

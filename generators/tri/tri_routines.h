@@ -5,6 +5,8 @@
 
 // The routines of KVOL_MATH_TRI, by the number the router gives them.
 
+void TrigValuesFromAnother(GeneratorWorkspace& ws);       // 1
+void TrigValuesFromTwoOthers(GeneratorWorkspace& ws);     // 2
 void TrigonometricIdentities(GeneratorWorkspace& ws);     // 3
 void TrigonometricEquationsList(GeneratorWorkspace& ws);  // 4
 

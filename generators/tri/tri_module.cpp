@@ -10,5 +10,7 @@ GeneratorModule MakeKvolMathTri() {
                 {2, TrigValuesFromTwoOthers},
                 {3, TrigonometricIdentities},
                 {4, TrigonometricEquationsList},
+                {5, SolvingTriangles},
+                {6, SolvingPlaneShapes},
             }};
 }

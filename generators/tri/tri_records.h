@@ -37,3 +37,22 @@ struct RelatedAnglesRecord {
     std::array<AskedValue, 3> asked;
 };
 RelatedAnglesRecord MakeRelatedAngles(GeneratorWorkspace& ws, int type);
+
+// Routine 5: a triangle solved from three of its parts. Index 0, 1, 2 are the vertices
+// A, B, C and the opposite sides a, b, c (shown with shuffled letters).
+struct TriangleRecord {
+    int type = 0;
+    std::array<double, 3> sides{};   // exact, in cm
+    std::array<double, 3> angles{};  // exact, in degrees
+    std::array<std::string, 3> vertexNames, sideNames;
+};
+TriangleRecord MakeTriangle(GeneratorWorkspace& ws, int type);
+
+// Routine 6: a figure with its given data and three asked values a), b), c).
+struct ShapeRecord {
+    int type = 0;
+    std::vector<double> given;       // the data as drawn, in the order the type lists them
+    std::array<double, 3> answers{};  // exact
+    std::array<int, 3> units{};       // 0 cm, 1 cm², 2 degrees
+};
+ShapeRecord MakeShape(GeneratorWorkspace& ws, int type);

@@ -9,6 +9,8 @@ void TrigValuesFromAnother(GeneratorWorkspace& ws);       // 1
 void TrigValuesFromTwoOthers(GeneratorWorkspace& ws);     // 2
 void TrigonometricIdentities(GeneratorWorkspace& ws);     // 3
 void TrigonometricEquationsList(GeneratorWorkspace& ws);  // 4
+void SolvingTriangles(GeneratorWorkspace& ws);            // 5
+void SolvingPlaneShapes(GeneratorWorkspace& ws);          // 6
 
 // One identity of the proof drill with its letters drawn, sides swapped by a coin.
 std::string TrigIdentityItem(GeneratorWorkspace& ws, int templateNumber);

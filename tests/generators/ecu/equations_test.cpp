@@ -180,7 +180,9 @@ TEST(EcuLinear, ItemRecordsAgreeWithTheirText) {
         ASSERT_NE(item.p, 0) << item.text;
         EXPECT_GT(item.denominator, 0);
         EXPECT_NEAR(item.p * item.numerator / item.denominator + item.q, 0, 1e-9) << item.text;
-        if (!rational) EXPECT_EQ(item.denominator, 1) << item.text;
+        if (!rational) {
+            EXPECT_EQ(item.denominator, 1) << item.text;
+        }
         const SplitRelation eq = SplitAtRelation(item.text);
         const double x = item.numerator / item.denominator;
         EXPECT_NEAR(Difference(eq, x), 0, 1e-9) << item.text;
@@ -213,7 +215,9 @@ void CheckPolynomialProblem(const GeneratedProblem& p) {
         const std::vector<double> roots = RealRoots(Coefficients(eq));
         const std::vector<double> listed = AnswerValues(answers[i]);
         ExpectSameValues(listed, roots, p.code + " " + items[i] + " -> " + answers[i]);
-        if (roots.empty()) EXPECT_NE(answers[i].find("No real solution."), std::string::npos) << p.code;
+        if (roots.empty()) {
+            EXPECT_NE(answers[i].find("No real solution."), std::string::npos) << p.code;
+        }
     }
 }
 

@@ -102,7 +102,9 @@ TEST(TrigValues, PresetPairsGiveRationalValues) {
         const bool preset = (r.p == 9 && r.q == 41) || (r.p == 40 && r.q == 41) || (r.p == 8 && r.q == 17) ||
                             (r.p == 15 && r.q == 17) || (r.p == 5 && r.q == 13) || (r.p == 12 && r.q == 13) ||
                             (r.p == 3 && r.q == 5) || (r.p == 4 && r.q == 5);
-        if (!preset) EXPECT_LT(r.q * r.q - r.p * r.p, 300);
+        if (!preset) {
+            EXPECT_LT(r.q * r.q - r.p * r.p, 300);
+        }
         EXPECT_GT(r.q, r.p);
         bool anyRoot = false;
         for (const auto& t : r.texts) anyRoot = anyRoot || t.find("#SQR(") != std::string::npos;
@@ -194,7 +196,9 @@ TEST(TrigTriangles, RecordsSolveTheTriangleExactly) {
             EXPECT_NEAR(x * x, y * y + z * z - 2 * y * z * std::cos(a[static_cast<std::size_t>(k)] * kDeg), 1e-7 * x * x);
             EXPECT_GT(a[static_cast<std::size_t>(k)], 0);
         }
-        if (t.type == 3) EXPECT_LT(a[1], 90);
+        if (t.type == 3) {
+            EXPECT_LT(a[1], 90);
+        }
         // The letters are a shuffle of the three, sides moving with their vertices.
         EXPECT_EQ(std::set<std::string>(t.vertexNames.begin(), t.vertexNames.end()).size(), 3u);
         for (int k = 0; k < 3; ++k) {
@@ -232,7 +236,8 @@ std::array<double, 3> Measure(const ShapeRecord& r) {
     const auto& g = r.given;
     switch (r.type) {
     case 0: {  // AD, B, DC
-        const Point D{0, 0}, A{0, g[0]}, C{g[2], 0}, B{-g[0] / std::tan(g[1] * kDeg), 0};
+        // D, the foot of the height, at the origin.
+        const Point A{0, g[0]}, C{g[2], 0}, B{-g[0] / std::tan(g[1] * kDeg), 0};
         return {Dist(A, B), Dist(B, C), AngleAt(C, A, B)};
     }
     case 1:
@@ -306,7 +311,9 @@ TEST(TrigPlaneShapes, AnswersMatchTheFigureBuiltFromTheData) {
             EXPECT_GT(r.answers[static_cast<std::size_t>(k)], 0);
         }
         // Areas given in a statement are whole.
-        if (r.type == 5 || r.type == 6 || r.type == 8) EXPECT_TRUE(IsWhole(r.given[r.type == 6 ? 1 : 0]));
+        if (r.type == 5 || r.type == 6 || r.type == 8) {
+            EXPECT_TRUE(IsWhole(r.given[r.type == 6 ? 1 : 0]));
+        }
     }
 }
 

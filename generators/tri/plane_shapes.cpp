@@ -179,7 +179,7 @@ namespace {
 std::string Num(double x) { return PlainNumberText(x); }
 
 std::string Answer(GeneratorWorkspace& ws, double value, int unit) {
-    static constexpr const char* kUnits[3] = {" cm", " cm^2", "\u00B0"};
+    constexpr const char* kUnits[3] = {" cm", " cm^2", "\u00B0"};
     return NumberToMarkup(RoundAtPosition(ws, value, -3)) + kUnits[unit];
 }
 } // namespace

@@ -94,13 +94,13 @@ void TrigValuesFromTwoOthers(GeneratorWorkspace& ws) {
     std::string given = Given(ws, rec.a, rec.sinA, rec.cosA);
     if (type == 2 || type == 4) given += ",  " + Given(ws, rec.b, rec.sinB, rec.cosB);
     // The joiners of each type: before the first, second and third asked angle.
-    static constexpr const char* kJoiners[5][3] = {
+    constexpr const char* kJoiners[5][3] = {
         {",  calculate  sin_ ", "\u00B0,  cos_ ", "\u00B0  and  sin& "},
         {",  find the value of  sin_ ", "\u00B0,  cos_ ", "\u00B0  and  cos& "},
         {",  calculate sin_ ", "\u00B0,  sin_ ", "\u00B0  and  cos& "},
         {",  find cos_ ", "\u00B0,  cos_ ", "\u00B0  and  sin& "},
         {",  calculate the value of sin_ ", "\u00B0,  cos_ ", "\u00B0  and  sin& "}};
-    static constexpr const char* kOpenings[5] = {"Knowing that  ", "We know that  ", "Knowing that  ",
+    constexpr const char* kOpenings[5] = {"Knowing that  ", "We know that  ", "Knowing that  ",
                                                  "If we know  ", "Knowing that  "};
     ws.Statement = kOpenings[type] + given;
     for (int i = 0; i < 3; ++i) ws.Statement += kJoiners[type][i] + PlainNumberText(rec.asked[static_cast<std::size_t>(i)].degrees);

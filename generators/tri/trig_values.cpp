@@ -86,12 +86,12 @@ void TrigValuesFromAnother(GeneratorWorkspace& ws) {
     }
     const int type = ws.Seed % 3;
     const TrigValuesRecord rec = MakeTrigValues(ws, type);
-    static constexpr const char* kAsked[3] = {
+    constexpr const char* kAsked[3] = {
         ", calculate the trigonometric functions cos, tan, cosec, sec and cotan.&LF",
         ", find the trigonometric functions sin, tan, sec, cosec and cotan.&LF",
         ", calculate the trigonometric functions sin, cos, cosec, sec and cotan.&LF"};
     // The order in which each type lists the asked values.
-    static constexpr int kOrder[3][5] = {{1, 2, 3, 4, 5}, {0, 2, 4, 3, 5}, {0, 1, 3, 4, 5}};
+    constexpr int kOrder[3][5] = {{1, 2, 3, 4, 5}, {0, 2, 4, 3, 5}, {0, 1, 3, 4, 5}};
     ws.Statement = ws.VariantNumber % 2 == 0 ? "We know that  " : "If we know that  ";
     ws.Statement += std::string(kNames[type]) + rec.texts[static_cast<std::size_t>(type)] + "  and  " + rec.condition +
                     kAsked[type];

@@ -187,6 +187,8 @@ void LinearEquationsInteger(GeneratorWorkspace& ws) {
         return;
     }
     LinearDrill(ws, false, false, 26, kStatementColumns3, kSolutionColumns3);
+    // This drill's answers follow the letter without the usual blank.
+    ws.Solution = ReplaceAll(ws.Solution, ")&-B &+I x &-I", ")&-B&+I x &-I");
 }
 
 // Routine 8.

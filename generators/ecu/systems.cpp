@@ -164,6 +164,8 @@ void LinearSystems2(GeneratorWorkspace& ws) {
     SystemDrill(ws, LinearSystem2Item, 26, {"&SP=5:", "&SP=35:", "&SP=65:"}, {"&SP=10:", "&SP=38:", "&SP=66:"},
                 {"Solve the following systems of  2\u00D72  linear equations:&LF",
                  "Solve these systems of  2\u00D72  linear equations:&LF"});
+    // This drill's answers follow the letter without the usual blank.
+    ws.Solution = ReplaceAll(ws.Solution, ")&-B &+I  x = &-I", ")&-B&+I  x = &-I");
 }
 
 // Routine 5.

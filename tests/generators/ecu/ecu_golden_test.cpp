@@ -10,8 +10,8 @@ const Golden kGolden[] = {
      "Solve the following linear equations:&LF&SP=5:&+Ba)&-B&+I 10&+Ix&-I& -& 1& =& 69&-I&SP=29:&+Bb)&-B&+"
      "I -7(&+Ix&-I& +& 3)& =& -84&-I&SP=53:&+Bc)&-B&+I 8(&+Ix&-I& +& 3)& =& -24&-I&LF&SP=5:&+Bd)&-B&+I -2("
      "&+Ix&-I& +& 1)& =& 0&-I&SP=29:&+Be)&-B&+I -3(&+Ix&-I& +& 7)& =& -12&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  =  7&SP=40:&-I&+Bb)&-B &+I x &-I  =  9&SP=70:&-I&+Bc)&-B &+I x &-I  = "
-     " -6&LF&SP=10:&-I&+Bd)&-B &+I x &-I  =  -1&SP=40:&-I&+Be)&-B &+I x &-I  =  -3&LF"},
+     "&SP=10:&-I&+Ba)&-B&+I x &-I  =  7&SP=40:&-I&+Bb)&-B&+I x &-I  =  9&SP=70:&-I&+Bc)&-B&+I x &-I  =  -6"
+     "&LF&SP=10:&-I&+Bd)&-B&+I x &-I  =  -1&SP=40:&-I&+Be)&-B&+I x &-I  =  -3&LF"},
     {"0010007001120302",
      "Solve the following linear equations:&LF&SP=5:&+Ba)&-B&+I -8(&+Ix&-I& +& 7)& =& -112&-I&SP=29:&+Bb)&"
      "-B&+I 9&+Ix&-I& +& 3& =& 4&+Ix&-I& +& 63&-I&SP=53:&+Bc)&-B&+I 4(&+Ix&-I& -& 1)& =& 12&-I&LF&SP=5:&+B"
@@ -20,14 +20,14 @@ const Golden kGolden[] = {
      "-I&-I&SP=29:&+Bh)&-B&+I 7&+Ix&-I& =& 5&+Ix&-I& -& 6&-I&SP=53:&+Bi)&-B&+I 7&+Ix&-I& -& 11& =& &+Ix&-I"
      "& -& 35&-I&LF&SP=5:&+Bj)&-B&+I 9(&+Ix&-I& +& 1)& =& -&+Ix&-I& +& 119&-I&SP=29:&+Bk)&-B&+I 7&+Ix&-I& "
      "+& 5& =& -23&-I&SP=53:&+Bl)&-B&+I 8&+Ix&-I& +& 8& =& -&+Ix&-I& +& 89&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  =  7&SP=40:&-I&+Bb)&-B &+I x &-I  =  12&SP=70:&-I&+Bc)&-B &+I x &-I  ="
-     "  4&LF&SP=10:&-I&+Bd)&-B &+I x &-I  =  -1&SP=40:&-I&+Be)&-B &+I x &-I  =  -10&SP=70:&-I&+Bf)&-B &+I "
-     "x &-I  =  4&LF&SP=10:&-I&+Bg)&-B &+I x &-I  =  -3&SP=40:&-I&+Bh)&-B &+I x &-I  =  -3&SP=70:&-I&+Bi)&"
-     "-B &+I x &-I  =  -4&LF&SP=10:&-I&+Bj)&-B &+I x &-I  =  11&SP=40:&-I&+Bk)&-B &+I x &-I  =  -4&SP=70:&"
-     "-I&+Bl)&-B &+I x &-I  =  9&LF"},
+     "&SP=10:&-I&+Ba)&-B&+I x &-I  =  7&SP=40:&-I&+Bb)&-B&+I x &-I  =  12&SP=70:&-I&+Bc)&-B&+I x &-I  =  4"
+     "&LF&SP=10:&-I&+Bd)&-B&+I x &-I  =  -1&SP=40:&-I&+Be)&-B&+I x &-I  =  -10&SP=70:&-I&+Bf)&-B&+I x &-I "
+     " =  4&LF&SP=10:&-I&+Bg)&-B&+I x &-I  =  -3&SP=40:&-I&+Bh)&-B&+I x &-I  =  -3&SP=70:&-I&+Bi)&-B&+I x "
+     "&-I  =  -4&LF&SP=10:&-I&+Bj)&-B&+I x &-I  =  11&SP=40:&-I&+Bk)&-B&+I x &-I  =  -4&SP=70:&-I&+Bl)&-B&"
+     "+I x &-I  =  9&LF"},
     {"0018998999011010",
      "Solve these linear equations:&LF&SP=5:&+Ba)&-B&+I -9&+Ix&-I& +& 11& =& &+Ix&-I& +& 111&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  =  -10&LF"},
+     "&SP=10:&-I&+Ba)&-B&+I x &-I  =  -10&LF"},
     {"0021230456050101",
      "Solve these quadratic equations:&LF&SP=5:&+Ba)&-B&+I &+Ix&-I^2& +& 3&+Ix&-I& -& 10& =& 0&-I&SP=29:&+"
      "Bb)&-B&+I &+Ix&-I^2& +& 9&+Ix&-I& +& 8& =& 0&-I&SP=53:&+Bc)&-B&+I 3&+Ix&-I^2& +& 8&+Ix&-I& +& 3& =& "
@@ -90,9 +90,9 @@ const Golden kGolden[] = {
      "8#RW2)#RWS)#NES)&-I&LF&SP=5:&+Bd)&-B&+I #NES(X}#RWS(R#RW1(2&+Ix&-I& +& 6&+Iy&-I& =& 22#RW1)#RW2(3&+I"
      "x&-I& -& 2&+Iy&-I& =& -33#RW2)#RWS)#NES)&-I&SP=35:&+Be)&-B&+I #NES(X}#RWS(R#RW1(9&+Ix&-I& -& 4&+Iy&-"
      "I& =& -20#RW1)#RW2(-&+Ix&-I& -& 7&+Iy&-I& =& 32#RW2)#RWS)#NES)&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I  x = &-I-10,   &+Iy = &-I7&SP=38:&-I&+Bb)&-B &+I  x = &-I0,   &+Iy = &-I-6&SP"
-     "=66:&-I&+Bc)&-B &+I  x = &-I1,   &+Iy = &-I-3&LF&SP=10:&-I&+Bd)&-B &+I  x = &-I-7,   &+Iy = &-I6&SP="
-     "38:&-I&+Be)&-B &+I  x = &-I-4,   &+Iy = &-I-4&LF"},
+     "&SP=10:&-I&+Ba)&-B&+I  x = &-I-10,   &+Iy = &-I7&SP=38:&-I&+Bb)&-B&+I  x = &-I0,   &+Iy = &-I-6&SP=6"
+     "6:&-I&+Bc)&-B&+I  x = &-I1,   &+Iy = &-I-3&LF&SP=10:&-I&+Bd)&-B&+I  x = &-I-7,   &+Iy = &-I6&SP=38:&"
+     "-I&+Be)&-B&+I  x = &-I-4,   &+Iy = &-I-4&LF"},
     {"0040007001120302",
      "Solve the following systems of  2×2  linear equations:&LF&SP=5:&+Ba)&-B&+I #NES(X}#RWS(R#RW1(12&+Ix&"
      "-I& +& 13&+Iy&-I& =& 127#RW1)#RW2(4&+Ix&-I& +& &+Iy&-I& =& 19#RW2)#RWS)#NES)&-I&SP=35:&+Bb)&-B&+I #N"
@@ -110,16 +110,16 @@ const Golden kGolden[] = {
      "k)&-B&+I #NES(X}#RWS(R#RW1(6&+Ix&-I& -& 3&+Iy&-I& =& 60#RW1)#RW2(5&+Ix&-I& -& 3&+Iy&-I& =& 50#RW2)#R"
      "WS)#NES)&-I&SP=65:&+Bl)&-B&+I #NES(X}#RWS(R#RW1(3&+Ix&-I& +& 12&+Iy&-I& =& 93#RW1)#RW2(6&+Ix&-I& +& "
      "2&+Iy&-I& =& 32#RW2)#RWS)#NES)&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I  x = &-I3,   &+Iy = &-I7&SP=38:&-I&+Bb)&-B &+I  x = &-I7,   &+Iy = &-I4&SP=66"
-     ":&-I&+Bc)&-B &+I  x = &-I-4,   &+Iy = &-I-10&LF&SP=10:&-I&+Bd)&-B &+I  x = &-I-12,   &+Iy = &-I11&SP"
-     "=38:&-I&+Be)&-B &+I  x = &-I3,   &+Iy = &-I3&SP=66:&-I&+Bf)&-B &+I  x = &-I-11,   &+Iy = &-I9&LF&SP="
-     "10:&-I&+Bg)&-B &+I  x = &-I-4,   &+Iy = &-I4&SP=38:&-I&+Bh)&-B &+I  x = &-I-8,   &+Iy = &-I10&SP=66:"
-     "&-I&+Bi)&-B &+I  x = &-I2,   &+Iy = &-I0&LF&SP=10:&-I&+Bj)&-B &+I  x = &-I-12,   &+Iy = &-I4&SP=38:&"
-     "-I&+Bk)&-B &+I  x = &-I10,   &+Iy = &-I0&SP=66:&-I&+Bl)&-B &+I  x = &-I3,   &+Iy = &-I7&LF"},
+     "&SP=10:&-I&+Ba)&-B&+I  x = &-I3,   &+Iy = &-I7&SP=38:&-I&+Bb)&-B&+I  x = &-I7,   &+Iy = &-I4&SP=66:&"
+     "-I&+Bc)&-B&+I  x = &-I-4,   &+Iy = &-I-10&LF&SP=10:&-I&+Bd)&-B&+I  x = &-I-12,   &+Iy = &-I11&SP=38:"
+     "&-I&+Be)&-B&+I  x = &-I3,   &+Iy = &-I3&SP=66:&-I&+Bf)&-B&+I  x = &-I-11,   &+Iy = &-I9&LF&SP=10:&-I"
+     "&+Bg)&-B&+I  x = &-I-4,   &+Iy = &-I4&SP=38:&-I&+Bh)&-B&+I  x = &-I-8,   &+Iy = &-I10&SP=66:&-I&+Bi)"
+     "&-B&+I  x = &-I2,   &+Iy = &-I0&LF&SP=10:&-I&+Bj)&-B&+I  x = &-I-12,   &+Iy = &-I4&SP=38:&-I&+Bk)&-B"
+     "&+I  x = &-I10,   &+Iy = &-I0&SP=66:&-I&+Bl)&-B&+I  x = &-I3,   &+Iy = &-I7&LF"},
     {"0048998999011010",
      "Solve the following systems of  2×2  linear equations:&LF&SP=5:&+Ba)&-B&+I #NES(X}#RWS(R#RW1(13&+Ix&"
      "-I& -& 5&+Iy&-I& =& -15#RW1)#RW2(-&+Ix&-I& -& 9&+Iy&-I& =& 95#RW2)#RWS)#NES)&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I  x = &-I-5,   &+Iy = &-I-10&LF"},
+     "&SP=10:&-I&+Ba)&-B&+I  x = &-I-5,   &+Iy = &-I-10&LF"},
     {"0051230456050101",
      "Solve these systems of  3×3  linear equations:&LF&SP=5:&+Ba)&-B&+I #NES(X}#RWS(R#RW1(11&+Ix&-I& -& &"
      "+Iy&-I& +& 2&+Iz&-I& =& -95#RW1)#RW2(7&+Ix&-I& +& 2&+Iy&-I& -& 8&+Iz&-I& =& -144#RW2)#RW3(-4&+Iz&-I&"

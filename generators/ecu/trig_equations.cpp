@@ -1,0 +1,47 @@
+#include <algorithm>
+#include <vector>
+
+#include "generators/ecu/ecu_routines.h"
+#include "generators/item_drill.h"
+#include "generators/tri/trig_equation_templates.h"
+#include "mathservices/arithmetic.h"
+#include "mathservices/faults.h"
+#include "mathservices/number_markup.h"
+
+// Routine 14: equations drawn from the shared table of trigonometric equations, two to a
+// row. This list writes the square of the unknown with a plain blank.
+void TrigonometricEquations(GeneratorWorkspace& ws) {
+    if (ws.DescribeMode) {
+        Describe(ws, {"070", "Equations", "035", "2", "026", "Trigonometric equations",
+                      "Trigonometric equations. (138 types)"});
+        return;
+    }
+    const int n = DrillItemCount(ws);
+    ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& "
+                   "[0\u00BA& ,& 360\u00BA).&LF";
+    std::vector<int> used;
+    for (int i = 1; i <= n; ++i) {
+        int k = 0;
+        RetryBound bound;
+        while (true) {
+            k = static_cast<int>(RandomInRange(ws, 1, kTrigEquationCount, 1, 1));
+            if (std::find(used.begin(), used.end(), k) == used.end()) break;
+            bound.Next();
+        }
+        used.push_back(k);
+        const TrigEquationTemplate& row = kTrigEquationTemplates[static_cast<std::size_t>(k - 1)];
+        const bool odd = i % 2 == 1;
+        const std::string lead = "&+B" + ItemLetter(i) + ")&-B  ";
+        ws.Statement += std::string(odd ? "&SP=5:" : "&SP=50:") + lead +
+                        ExpandTrigEquation(row.equation, kTrigSquareWithBlank);
+        std::string answer = row.solutions;
+        if (!answer.empty() && answer[0] >= 'a' && answer[0] <= 'z') answer[0] = static_cast<char>(answer[0] - 32);
+        ws.Solution += std::string(odd ? "&SP=10:" : "&SP=50:") + lead + answer;
+        if (!odd || i == n) {
+            ws.Statement += "&LF";
+            ws.Solution += "&LF";
+        }
+    }
+    ws.Statement += "&LF";
+    ws.Solution = ReplaceAll(ReplaceAll(ws.Solution, "\u00BA", "\u00B0"), "@", "&+Ix&-I");
+}

@@ -1,0 +1,99 @@
+#include <algorithm>
+#include <vector>
+
+#include "generators/item_drill.h"
+#include "generators/tri/tri_routines.h"
+#include "generators/tri/trig_equation_templates.h"
+#include "generators/tri/trig_identity_templates.h"
+#include "mathservices/arithmetic.h"
+#include "mathservices/faults.h"
+#include "mathservices/number_markup.h"
+
+namespace {
+std::string Trim(const std::string& s) {
+    const auto first = s.find_first_not_of(' ');
+    if (first == std::string::npos) return "";
+    const auto last = s.find_last_not_of(' ');
+    return s.substr(first, last - first + 1);
+}
+
+// n distinct template numbers in 1..size; a number already taken is drawn again.
+int DrawNewTemplate(GeneratorWorkspace& ws, int size, std::vector<int>& used) {
+    RetryBound bound;
+    while (true) {
+        const int k = static_cast<int>(RandomInRange(ws, 1, size, 1, 1));
+        if (std::find(used.begin(), used.end(), k) == used.end()) {
+            used.push_back(k);
+            return k;
+        }
+        bound.Next();
+    }
+}
+} // namespace
+
+std::string TrigIdentityItem(GeneratorWorkspace& ws, int templateNumber) {
+    std::string letter = "x";
+    if (Coin(ws, 0.5f)) letter = "t";
+    if (Coin(ws, 0.96f)) letter = "&theta";
+    if (Coin(ws, 0.7f)) letter = "&alfa";
+    std::string angleA = "a", angleB = "b";
+    if (Coin(ws, 0.8f)) {
+        angleA = "&alfa";
+        angleB = "&beta";
+    }
+    std::string text = ExpandTrigIdentity(kTrigIdentityTemplates[static_cast<std::size_t>(templateNumber - 1)],
+                                          letter, angleA, angleB);
+    if (Coin(ws, 0.7f)) {
+        const auto eq = text.find('=');
+        text = Trim(text.substr(eq + 1)) + " = " + Trim(text.substr(0, eq));
+    }
+    return text;
+}
+
+// Routine 3: identities to prove, two to a line; no proof is given.
+void TrigonometricIdentities(GeneratorWorkspace& ws) {
+    if (ws.DescribeMode) {
+        Describe(ws, {"110", "Trigonometry", "030", "2", "024", "Trigonometric identities",
+                      "Exercises for making proofs of trigonometric identities (34 types)."});
+        return;
+    }
+    const int n = DrillItemCount(ws);
+    ws.Statement = Coin(ws, 0.5f) ? "&-I&-BProve the following trigonometric identities.&LF"
+                                  : "&-I&-BGive a proof of the following trigonometric identities.&LF";
+    std::vector<int> used;
+    for (int i = 1; i <= n; ++i) {
+        const int k = DrawNewTemplate(ws, kTrigIdentityCount, used);
+        const std::string text = TrigIdentityItem(ws, k);
+        ws.Statement += std::string(i % 2 == 1 ? "&SP=1:" : "&SP=48:") + "&+B" + ItemLetter(i) + ")&-B " + text;
+        if (i % 2 == 0 || i == n) ws.Statement += "&LF&LF";
+    }
+    ws.Solution = "&SP=10: -";
+}
+
+// Routine 4: equations whose solutions in [0°, 360°) come from the shared table.
+void TrigonometricEquationsList(GeneratorWorkspace& ws) {
+    if (ws.DescribeMode) {
+        Describe(ws, {"110", "Trigonometry", "040", "2", "026", "Trigonometric equations",
+                      "Exercises to solve trigonometric equations. (138 types)"});
+        return;
+    }
+    const int n = DrillItemCount(ws);
+    ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0\u00B0& "
+                   ",& 360\u00B0).&LF";
+    std::vector<int> used;
+    for (int i = 1; i <= n; ++i) {
+        const int k = DrawNewTemplate(ws, kTrigEquationCount, used);
+        const TrigEquationTemplate& row = kTrigEquationTemplates[static_cast<std::size_t>(k - 1)];
+        const std::string lead = "&+B" + ItemLetter(i) + ")&-B ";
+        const bool odd = i % 2 == 1;
+        ws.Statement += std::string(odd ? "&SP=5:" : "&SP=50:") + lead +
+                        ExpandTrigEquation(row.equation, kTrigSquareWithScriptBlank);
+        std::string answer = ExpandTrigEquation(row.solutions, kTrigSquareWithScriptBlank);
+        if (!answer.empty() && answer[0] >= 'a' && answer[0] <= 'z') answer[0] = static_cast<char>(answer[0] - 32);
+        ws.Solution += std::string(odd ? "&SP=10:" : "&SP=50:") + lead + answer;
+        if (!odd || i == n) {
+            ws.Statement += "&LF";
+            ws.Solution += "&LF";
+        }
+    }
+}

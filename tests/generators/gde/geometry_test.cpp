@@ -26,7 +26,10 @@ struct Expectation {
     std::vector<double> answers;
 };
 
+// A given number: it must end within two decimals, or the problem would give a rounded
+// value and mean another.
 std::string Text(double v) {
+    EXPECT_LT(std::abs(v * 100 - std::round(v * 100)), 1e-6) << "given " << v << " has more than two decimals";
     GeneratorWorkspace ws;
     return MeasureText(ws, v);
 }

@@ -85,6 +85,19 @@ std::vector<double> SolutionNumbers(const std::string& solution) {
     return out;
 }
 
+// The words of the parts, perhaps followed by the figure's label; a segment of the
+// similarity figures is asked as "Length of" and its name, a hexagon's apothem by name.
+bool KnownQuestion(const std::string& question) {
+    static const std::vector<std::string> words = {
+        "Hypotenuse", "Perimeter", "Area", "Height", "Diagonal", "Length of the other cathetus",
+        "Length of altitude", "Length of the side", "Surface area", "Volume", "Space diagonal", "Slant height",
+        "Radius", "Length of its edge", "Length of its altitude", "Length of its base"};
+    for (const auto& word : words) {
+        if (question == word || question.rfind(word + " &+I", 0) == 0) return true;
+    }
+    return question.rfind("Length of &+I", 0) == 0 || question == "Apothem &+Ia&-I";
+}
+
 void PrepareLikeTheRouter(GeneratorWorkspace& ws, int seed) {
     ws.Seed = seed;
     ws.stream.Draw(-1);
@@ -106,6 +119,7 @@ void CheckRoutine(int routine, int types, Builder build, const std::function<Exp
         ASSERT_EQ(p.type, seed % types);
         const Expectation e = expect(p.type, p.shape);
         ASSERT_EQ(p.parts.size(), e.answers.size()) << "seed " << seed << " type " << p.type;
+        for (const auto& part : p.parts) EXPECT_TRUE(KnownQuestion(part.question)) << part.question;
         for (std::size_t i = 0; i < e.answers.size(); ++i) {
             EXPECT_NEAR(p.parts[i].value, e.answers[i], 1e-9 * std::max(1.0, std::abs(e.answers[i])))
                 << "seed " << seed << " type " << p.type << " part " << i;

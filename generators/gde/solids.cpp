@@ -73,7 +73,8 @@ GeometryProblem BuildPlaneSolidProblem(GeneratorWorkspace& ws) {
     case 1:
         p.opening = "The base of a prism is a square whose edge is " + GivenCm(ws, a) + " and its volume is " +
                     m(a * a * c) + " cm^3. Find:&LF";
-        p.parts = {{altitude, c, kCm}, {"Space diagonal", d, kCm}, {"Surface area", cuboidArea, kCm2}};
+        // No picture: no labels.
+        p.parts = {{"Length of its altitude", c, kCm}, {"Space diagonal", d, kCm}, {"Surface area", cuboidArea, kCm2}};
         p.shape = {{"a", a}, {"b", b}, {"c", c}};
         break;
     case 2:

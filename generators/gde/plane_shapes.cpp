@@ -34,6 +34,15 @@ const double kRoot3 = std::sqrt(3.0);
 std::string Degrees(double angle) { return PlainNumberText(angle) + "\u00B0"; }
 } // namespace
 
+// Types: 0 square from its side; 1 rhombus from side and major diagonal; 2 regular
+// hexagon from its side; 3 equilateral triangle from its side; 4 right trapezoid from
+// bases and area; 5 square from its area; 6 rhombus from its diagonals; 7 isosceles
+// triangle from base and sides; 8 equilateral triangle from its area; 9 isosceles
+// trapezoid from bases and sides; 10 rectangle from base and diagonal; 11 rhomboid from
+// base, side and height; 12 isosceles triangle from base and area; 13 right trapezoid
+// from bases and slanted side; 14 isosceles trapezoid from bases and height; 15
+// rectangle from area and base; 16 regular octagon from side and apothem; 17 triangle
+// from base and height (its area, the one question).
 // The triple x² + y² = z² makes the slanted sides whole: the half diagonals and side of
 // a rhombus, the legs and hypotenuse of the triangle cut off a trapezoid (an isosceles
 // trapezoid has one at each end), the half base, altitude and side of an isosceles
@@ -206,6 +215,10 @@ void PlaneShapesStraight(GeneratorWorkspace& ws) {
     WriteGeometryProblem(ws, BuildStraightShapeProblem(ws), {"&SP=75:", "&SP=75:", false});
 }
 
+// Types: 0 circle from its radius; 1 sector from radius and angle; 2 circular trapezoid
+// from radii and angle; 3 circle from its perimeter; 4 annulus from its radii; 5 sector
+// from area and angle (its radius, the one question); 6 circle from its area; 7 annulus
+// from major radius and area.
 // A radius R, a smaller radius r and an angle α in degrees. Given areas and perimeters
 // are written as exact multiples of pi, so that the radius found from them is whole.
 GeometryProblem BuildCurvedShapeProblem(GeneratorWorkspace& ws) {

@@ -12,6 +12,12 @@ const char* const kIsosceles = "#IMG('m_TRI_ISOS.GIF'DXmm=28:DYmm=-26.81:#IMG)";
 constexpr int kTypes = 10;
 } // namespace
 
+// Types: 0 right triangle from its altitude and a cathetus; 1 rectangle from diagonal
+// and base; 2 right triangle from area and a cathetus; 3 rectangle from height and
+// diagonal; 4 isosceles triangle from base and side; 5 rectangle from area and base;
+// 6 right triangle from hypotenuse and a cathetus; 7 rectangle from perimeter and base;
+// 8 right triangle from perimeter and a cathetus; 9 isosceles triangle from altitude
+// and base.
 // The triple gives every side whole: a right triangle with catheti b, c and hypotenuse
 // a; a rectangle with base b, height h and diagonal d; an isosceles triangle whose half
 // base, altitude and equal side l are the triple. The opening gives two measures and the

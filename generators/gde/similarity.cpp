@@ -13,6 +13,10 @@ constexpr double kUnit = 0.5;
 std::string Segment(const std::string& name) { return "Length of " + Label(name); }
 } // namespace
 
+// Types: 0, 2, 3, 5, 6, 8 the Thales figure, three segments given and the others asked;
+// 1 the two triangles, three sides of one and a side of the other; 4 the area of the
+// large triangle from the small one's and two matching sides; 7 a side from the two
+// areas and the matching side.
 // Two similar triangles in the ratio q : p. In the Thales figure the small triangle is
 // ABC and the large one ADE (B, D on one ray from A; C, E on the other; BC parallel to
 // DE). In the figure of two triangles, ABC is the small one and DEF the large one, with

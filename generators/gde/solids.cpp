@@ -31,6 +31,12 @@ void SplitByThree(double x, double y, double& multipleOfThree, double& other) {
 }
 } // namespace
 
+// Types: 0 cube from its edge; 1 square prism from edge and volume; 2 pyramid from base
+// edge and slant height; 3 cube from its volume; 4 rectangular prism from its edges;
+// 5 pyramid from altitude and volume; 6 cube from its surface area; 7 rectangular prism
+// from base edges and volume; 8 pyramid from base edge and volume; 9 square prism from
+// edge and altitude; 10 rectangular prism from base edges and space diagonal; 11
+// hexagonal prism from edge and altitude.
 // The plane triple makes a cube's edge, and a square pyramid whose half base edge,
 // altitude h and slant height g are the triple (base edge a = twice the first), and the
 // hexagonal prism's edge and altitude. The spatial triple makes the edges a, b, c of a
@@ -160,6 +166,10 @@ void SpatialShapesPlane(GeneratorWorkspace& ws) {
     WriteGeometryProblem(ws, BuildPlaneSolidProblem(ws), {"&SP=75:", "&SP=75:", false});
 }
 
+// Types: 0 cylinder from radius and altitude; 1 cone from radius and altitude; 2 sphere
+// from its radius; 3 cylinder from radius and volume; 4 cone from radius and volume;
+// 5 sphere from its volume; 6 cylinder from altitude and volume; 7 cone from slant
+// height and radius; 8 sphere from its surface area.
 // The triple gives a cylinder's radius and altitude, and a cone whose radius r, altitude
 // h and slant height g are the triple. Given volumes and areas with pi are written as
 // exact multiples of pi, so that the measures found from them are whole.

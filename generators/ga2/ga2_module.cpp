@@ -6,5 +6,9 @@ GeneratorModule MakeKvolMathGa2() {
     return {"KVOL_MATH_GA2",
             8,
             {
+                {5, Circle},
+                {6, Ellipse},
+                {7, Hyperbola},
+                {8, Parabola},
             }};
 }

@@ -1,0 +1,135 @@
+#include "ga2_test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <regex>
+
+namespace {
+bool Eat(const std::string& text, std::size_t& pos, const std::string& what) {
+    if (text.compare(pos, what.size(), what) == 0) {
+        pos += what.size();
+        return true;
+    }
+    return false;
+}
+
+// digits with "&." as decimal mark, then an optional root; an empty factor is 1.
+bool ReadSimple(const std::string& text, std::size_t& pos, double& value) {
+    std::string digits;
+    while (pos < text.size()) {
+        if (std::isdigit(static_cast<unsigned char>(text[pos]))) digits += text[pos++];
+        else if (text.compare(pos, 2, "&.") == 0) { digits += '.'; pos += 2; }
+        else break;
+    }
+    double factor = digits.empty() ? 1 : std::stod(digits);
+    if (Eat(text, pos, "#SQR(")) {
+        const auto end = text.find("#SQR)", pos);
+        if (end == std::string::npos) return false;
+        factor *= std::sqrt(std::stod(text.substr(pos, end - pos)));
+        pos = end + 5;
+    } else if (digits.empty()) {
+        return false;
+    }
+    value = factor;
+    return true;
+}
+
+bool ReadNumber(const std::string& text, std::size_t& pos, double& value) {
+    double sign = 1;
+    while (true) {
+        if (Eat(text, pos, "-")) sign = -sign;
+        else if (Eat(text, pos, "& ")) continue;
+        else break;
+    }
+    if (Eat(text, pos, "#COC(")) {
+        double top = 0, bottom = 0;
+        if (!ReadNumber(text, pos, top) || !Eat(text, pos, "#N)(") || !ReadNumber(text, pos, bottom) ||
+            !Eat(text, pos, "#COC)"))
+            return false;
+        value = sign * top / bottom;
+        return true;
+    }
+    if (!ReadSimple(text, pos, value)) return false;
+    value *= sign;
+    return true;
+}
+} // namespace
+
+double ReadExact(const std::string& text) {
+    std::size_t pos = 0;
+    double value = 0;
+    if (!ReadNumber(text, pos, value) || pos != text.size()) {
+        ADD_FAILURE() << "not an exact number: '" << text << "'";
+        return std::nan("");
+    }
+    return value;
+}
+
+std::vector<Point2> PointsIn(const std::string& text) {
+    static const std::regex kPoint(
+        R"(((?:&\+I([^&]*)&-I)?)(?:&)?\(((?:[-0-9]|&\.|& |#COC\(|#N\)\(|#COC\)|#SQR\(|#SQR\))+),& & ((?:[-0-9]|&\.|& |#COC\(|#N\)\(|#COC\)|#SQR\(|#SQR\))+)\))");
+    std::vector<Point2> points;
+    for (auto it = std::sregex_iterator(text.begin(), text.end(), kPoint); it != std::sregex_iterator(); ++it) {
+        points.push_back({ReadExact((*it)[3]), ReadExact((*it)[4]), (*it)[2]});
+    }
+    return points;
+}
+
+namespace {
+void AddSide(const std::string& side, double sign, General2& g, const std::string& parameter, double value) {
+    std::size_t pos = 0;
+    bool first = true;
+    while (pos < side.size()) {
+        double termSign = sign;
+        if (Eat(side, pos, "& +& ")) {
+        } else if (Eat(side, pos, "& -& ")) {
+            termSign = -termSign;
+        } else if (first && Eat(side, pos, "-")) {
+            termSign = -termSign;
+        } else if (!first) {
+            ADD_FAILURE() << "bad joiner in '" << side << "' at " << pos;
+            return;
+        }
+        first = false;
+        double coefficient = 1;
+        std::size_t save = pos;
+        if (!ReadNumber(side, pos, coefficient)) {
+            pos = save;
+            coefficient = 1;
+        }
+        if (!parameter.empty() && Eat(side, pos, parameter)) coefficient *= value;
+        if (Eat(side, pos, "&+Ix&-I^2")) g.A += termSign * coefficient;
+        else if (Eat(side, pos, "&+Iy&-I^2")) g.C += termSign * coefficient;
+        else if (Eat(side, pos, "&+Ix&-I")) g.D += termSign * coefficient;
+        else if (Eat(side, pos, "&+Iy&-I")) g.E += termSign * coefficient;
+        else g.F += termSign * coefficient;
+        if (pos < side.size() && side.compare(pos, 5, "& +& ") != 0 && side.compare(pos, 5, "& -& ") != 0) {
+            ADD_FAILURE() << "cannot read term in '" << side << "' at " << pos;
+            return;
+        }
+    }
+}
+} // namespace
+
+General2 ReadGeneral(const std::string& equation, const std::string& parameter, double parameterValue) {
+    General2 g;
+    const auto eq = equation.find("& =& ");
+    if (eq == std::string::npos) {
+        ADD_FAILURE() << "no equation: " << equation;
+        return g;
+    }
+    AddSide(equation.substr(0, eq), 1, g, parameter, parameterValue);
+    AddSide(equation.substr(eq + 5), -1, g, parameter, parameterValue);
+    return g;
+}
+
+std::string Between(const std::string& text, const std::string& from, const std::string& to, std::size_t start) {
+    const auto at = text.find(from, start);
+    if (at == std::string::npos) {
+        ADD_FAILURE() << "missing: " << from;
+        return "";
+    }
+    const auto end = text.find(to, at + from.size());
+    return text.substr(at + from.size(), end == std::string::npos ? std::string::npos : end - at - from.size());
+}

@@ -11,10 +11,10 @@ const Golden kGolden[] = {
      "y&-I& -& 3& =& 0&LF",
      "&SP=10:&+IC&-I&(-1,& & 4);   &+Ir&-I = 2#SQR(5#SQR)&LF"},
     {"0051230102020302",
-     "Calculate the values of parameter  &+Ip&-I  for which the line  -&+Ix&-I& +& &+Iy&-I& +& &+Ip&-I& =&"
-     " 0  is tangent to the following circle and find the tangent point.&LF     &+Ix&-I^2& +& &+Iy&-I^2& -"
-     "& 2&+Ix&-I& -& 2&+Iy&-I& -& 16& =& 0&LF",
-     "&SP=10:&+Ip&-I& =& -6  tangent at  &(-2,& & 4)     &+Ior&-I     &+Ip&-I& =& 6  tangent at  &(4,& & -"
+     "Calculate the values of parameter  &+Ip&-I  for which the line  &+Ix&-I& -& &+Iy&-I& +& &+Ip&-I& =& "
+     "0  is tangent to the following circle and find the tangent point.&LF     &+Ix&-I^2& +& &+Iy&-I^2& -&"
+     " 2&+Ix&-I& -& 2&+Iy&-I& -& 16& =& 0&LF",
+     "&SP=10:&+Ip&-I& =& 6  tangent at  &(-2,& & 4)     &+Ior&-I     &+Ip&-I& =& -6  tangent at  &(4,& & -"
      "2)&LF"},
     {"0050004321000101",
      "Find the center and radius of the given circle:&LF     &+Ix&-I^2& +& &+Iy&-I^2& +& 26&+Ix&-I& -& 22&"

@@ -6,6 +6,8 @@ GeneratorModule MakeKvolMathGa2() {
     return {"KVOL_MATH_GA2",
             8,
             {
+                {1, VectorsOne},
+                {2, VectorsTwo},
                 {5, Circle},
                 {6, Ellipse},
                 {7, Hyperbola},

@@ -39,7 +39,7 @@ bool ReadNumber(const std::string& text, std::size_t& pos, double& value) {
     double sign = 1;
     while (true) {
         if (Eat(text, pos, "-")) sign = -sign;
-        else if (Eat(text, pos, "& ")) continue;
+        else if (Eat(text, pos, "& ") || Eat(text, pos, " ")) continue;
         else break;
     }
     if (Eat(text, pos, "#COC(")) {
@@ -68,7 +68,7 @@ double ReadExact(const std::string& text) {
 
 std::vector<Point2> PointsIn(const std::string& text) {
     static const std::regex kPoint(
-        R"(((?:&\+I([^&]*)&-I)?)(?:&)?\(((?:[-0-9]|&\.|& |#COC\(|#N\)\(|#COC\)|#SQR\(|#SQR\))+),& & ((?:[-0-9]|&\.|& |#COC\(|#N\)\(|#COC\)|#SQR\(|#SQR\))+)\))");
+        R"(((?:&\+I([^&]*)&-I)?)(?:&)?\(((?:[-0-9 ]|&\.|& |#COC\(|#N\)\(|#COC\)|#SQR\(|#SQR\))+),& & ((?:[-0-9 ]|&\.|& |#COC\(|#N\)\(|#COC\)|#SQR\(|#SQR\))+)\))");
     std::vector<Point2> points;
     for (auto it = std::sregex_iterator(text.begin(), text.end(), kPoint); it != std::sregex_iterator(); ++it) {
         points.push_back({ReadExact((*it)[3]), ReadExact((*it)[4]), (*it)[2]});

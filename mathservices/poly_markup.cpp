@@ -155,6 +155,11 @@ std::string VectorFormToMarkup(MathWorkspace& ws, const LineData& line, LineForm
     const int n = space ? 3 : 2;
     const std::string variables[3] = {kX, kY, kZ};
     if (form == LineForm::SlopeIntercept && (space || line.direction[0] == 0)) form = LineForm::General;
+    // A plane line along an axis has no symmetric form (it would divide by 0): the
+    // general form stands in for it.
+    if (form == LineForm::Continuous && !space && (line.direction[0] == 0 || line.direction[1] == 0) &&
+        line.directionTexts[0].empty() && line.directionTexts[1].empty())
+        form = LineForm::General;
     switch (form) {
     case LineForm::Vector:
         return std::string(space ? "(&+Ix,& y,& z&-I)& =& (" : "(&+Ix,& y&-I)& =& (") +
@@ -208,17 +213,27 @@ std::string VectorFormToMarkup(MathWorkspace& ws, const LineData& line, LineForm
         return "#NES({X#RWS(L" + rows + "#RWS)#NES)";
     }
     case LineForm::SlopeIntercept: {
-        const double m = line.direction[1] / line.direction[0];
-        const double q = line.point[1] - m * line.point[0];
+        const double vx = line.direction[0], vy = line.direction[1];
+        const double px = line.point[0], py = line.point[1];
+        const double m = vy / vx;
+        const double q = py - m * px;
+        // With whole data slope and intercept are fractions: written as such, never
+        // guessed from their decimals (which could pass for a multiple of pi).
+        const bool whole = IsWhole(vx) && IsWhole(vy) && IsWhole(px) && IsWhole(py);
+        auto magnitude = [&](double top, double bottom, double value) {
+            return whole ? FractionToMarkup(ws, std::fabs(top), std::fabs(bottom))
+                         : NumberToExactMarkup(ws, std::fabs(value));
+        };
         std::string right;
         if (m != 0) {
-            if (m == -1) right = "-";
-            else if (m != 1) right = NumberToExactMarkup(ws, m);
+            if (m < 0) right = "-";
+            if (std::fabs(m) != 1) right += magnitude(vy, vx, m);
             right += kX;
         }
         if (q != 0 || right.empty()) {
-            if (right.empty()) right = NumberToExactMarkup(ws, q);
-            else right += (q < 0 ? "& -& " : "& +& ") + NumberToExactMarkup(ws, std::fabs(q));
+            const std::string qText = magnitude(py * vx - vy * px, vx, q);
+            if (right.empty()) right = (q < 0 ? "-" : "") + qText;
+            else right += (q < 0 ? "& -& " : "& +& ") + qText;
         }
         return kY + "& =& " + right;
     }

@@ -8,6 +8,8 @@ GeneratorModule MakeKvolMathGa2() {
             {
                 {1, VectorsOne},
                 {2, VectorsTwo},
+                {3, LinesOne},
+                {4, LinesTwo},
                 {5, Circle},
                 {6, Ellipse},
                 {7, Hyperbola},

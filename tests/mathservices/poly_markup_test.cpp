@@ -147,3 +147,28 @@ TEST(ConicToMarkup, FourStyles) {
     const ConicData vertical{ConicKind::Parabola, 0, 3, 4, 0, true};
     EXPECT_EQ(ConicToMarkup(ws, vertical, ConicStyle::Reduced), "&+Ix&-I^2& =& 4(&+Iy&-I& -& 3)");
 }
+
+TEST(VectorFormToMarkup, PlaneLineAlongAnAxisHasNoDivisionByZero) {
+    MathWorkspace ws;
+    LineData line;
+    line.point = {2, -1, 0};
+    line.direction = {3, 0, 0};
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::Continuous, "t"), "&+Iy&-I& +& 1& =& 0");
+    line.direction = {0, -2, 0};
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::Continuous, "t"), "&+Ix&-I& -& 2& =& 0");
+}
+
+TEST(VectorFormToMarkup, SlopeInterceptKeepsFractions) {
+    MathWorkspace ws;
+    LineData line;
+    // Through (1, -3) with direction (10, -25): y = -5/2 x - 1/2.
+    line.point = {1, -3, 0};
+    line.direction = {10, -25, 0};
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::SlopeIntercept, "t"),
+              "&+Iy&-I& =& -#COC(5#N)(2#COC)&+Ix&-I& -& #COC(1#N)(2#COC)");
+    // An intercept of 71/2 = 35.5 is a fraction, not a multiple of pi.
+    line.point = {1, 37, 0};
+    line.direction = {2, 3, 0};
+    EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::SlopeIntercept, "t"),
+              "&+Iy&-I& =& #COC(3#N)(2#COC)&+Ix&-I& +& #COC(71#N)(2#COC)");
+}

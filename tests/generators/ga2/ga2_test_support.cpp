@@ -133,3 +133,56 @@ std::string Between(const std::string& text, const std::string& from, const std:
     const auto end = text.find(to, at + from.size());
     return text.substr(at + from.size(), end == std::string::npos ? std::string::npos : end - at - from.size());
 }
+
+namespace {
+General2 LineThrough(double px, double py, double vx, double vy) {
+    General2 g;
+    g.D = vy;
+    g.E = -vx;
+    g.F = -(vy * px - vx * py);
+    return g;
+}
+
+// "&+Ix&-I& -& 4" is 4; "&+Ix&-I" is 0.
+double ShiftOf(const std::string& text, const std::string& variable) {
+    EXPECT_EQ(text.rfind(variable, 0), 0u) << text;
+    const std::string rest = text.substr(variable.size());
+    if (rest.empty()) return 0;
+    if (rest.rfind("& -& ", 0) == 0) return ReadExact(rest.substr(5));
+    if (rest.rfind("& +& ", 0) == 0) return -ReadExact(rest.substr(5));
+    ADD_FAILURE() << "bad shift: " << text;
+    return 0;
+}
+} // namespace
+
+General2 ReadLine(const std::string& text, const std::string& parameter, double value) {
+    const std::string t = "&+It&-I";
+    if (text.rfind("(&+Ix,& y&-I)& =& (", 0) == 0) {
+        const std::string rest = text.substr(19);
+        const auto comma = rest.find(",& ");
+        const auto close = rest.find(")& +& ");
+        const double px = ReadExact(rest.substr(0, comma)), py = ReadExact(rest.substr(comma + 3, close - comma - 3));
+        const std::string dir = Between(rest, t + "& (", ")");
+        const auto c2 = dir.find(",& ");
+        return LineThrough(px, py, ReadExact(dir.substr(0, c2)), ReadExact(dir.substr(c2 + 3)));
+    }
+    if (text.rfind("#NES({X#RWS(L#RW1(", 0) == 0) {
+        const std::string xRow = Between(text, "#RW1(", "#RW1)");
+        const std::string yRow = Between(text, "#RW2(", "#RW2)");
+        auto at = [&](const std::string& row, double tv) {
+            const General2 g = ReadGeneral(row, t, tv);
+            return -(g.F) / (g.D != 0 ? g.D : g.E);
+        };
+        const double px = at(xRow, 0), py = at(yRow, 0);
+        return LineThrough(px, py, at(xRow, 1) - px, at(yRow, 1) - py);
+    }
+    if (text.rfind("#COC(&+Ix&-I", 0) == 0) {
+        const double px = ShiftOf(Between(text, "#COC(", "#N)("), "&+Ix&-I");
+        const double vx = ReadExact(Between(text, "#N)(", "#COC)"));
+        const std::string second = text.substr(text.find("& =& ") + 5);
+        const double py = ShiftOf(Between(second, "#COC(", "#N)("), "&+Iy&-I");
+        const double vy = ReadExact(Between(second, "#N)(", "#COC)"));
+        return LineThrough(px, py, vx, vy);
+    }
+    return ReadGeneral(text, parameter, value);
+}

@@ -26,3 +26,7 @@ General2 ReadGeneral(const std::string& equation, const std::string& parameter =
 // The text between from (excluded) and the next "&LF", or to the end.
 std::string Between(const std::string& text, const std::string& from, const std::string& to = "&LF",
                     std::size_t start = 0);
+
+// A line of the plane in any of the five forms of the line writer (vector, parametric,
+// symmetric, general, slope-intercept), as D·x + E·y + F = 0 in a General2.
+General2 ReadLine(const std::string& text, const std::string& parameter = "", double value = 0);

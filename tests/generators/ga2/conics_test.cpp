@@ -373,3 +373,27 @@ TEST(Ga2Conics, SameCodeSameText) {
     EXPECT_EQ(a.statement, b.statement);
     EXPECT_EQ(a.solution, b.solution);
 }
+
+// "Determine" half of the time, "Calculate" and "Find" a quarter each; 30 % of the
+// ellipses have a vertical major axis.
+TEST(Ga2Conics, VerbsAndOrientation) {
+    GeneratorHub hub;
+    int calculate = 0, find = 0, determine = 0, vertical = 0, horizontal = 0;
+    for (int seed = 0; seed < 2000; ++seed) {
+        const GeneratedProblem p = GenerateProblem(hub, "KVOL_MATH_GA2", {6, 0, seed, 0, 1, 1});
+        if (p.statement.find(".  Calculate") != std::string::npos) ++calculate;
+        if (p.statement.find(".  Find") != std::string::npos) ++find;
+        if (p.statement.find(".  Determine") != std::string::npos) ++determine;
+        for (const Point2& q : PointsIn(p.statement + p.solution)) {
+            if (q.label != "F") continue;
+            const Point2 other = PointsIn(p.statement + p.solution).at(1);
+            (q.x == other.x ? vertical : horizontal) += 1;
+            break;
+        }
+    }
+    EXPECT_EQ(calculate + find + determine, 2000);
+    EXPECT_NEAR(determine / 2000.0, 0.5, 0.05);
+    EXPECT_NEAR(find / 2000.0, 0.25, 0.05);
+    EXPECT_NEAR(calculate / 2000.0, 0.25, 0.05);
+    EXPECT_NEAR(vertical / double(vertical + horizontal), 0.3, 0.05);
+}

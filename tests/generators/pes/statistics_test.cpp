@@ -367,3 +367,21 @@ TEST(PesStatistics, NormalDistributionGroupOfZeroIsAFault) {
     const GeneratedProblem p = GenerateProblem(hub, "KVOL_MATH_PES", {4, 0, 17, 1, 0, 1});
     EXPECT_EQ(p.statement.rfind("<ERROR>  Number= ", 0), 0u) << p.statement;
 }
+
+// A falling series of values still has its median found among the sorted values.
+TEST(PesStatistics, FallingSeriesMedian) {
+    GeneratorHub hub;
+    int falling = 0;
+    for (int seed = 0; seed < 200 && falling < 20; ++seed) {
+        const GeneratedProblem p = GenerateProblem(hub, "KVOL_MATH_PES", {1, 0, seed, 0, 1, 1});
+        const auto cells = TableCells(p.statement, "&SP=11:", "&SP=20:");
+        std::vector<double> data;
+        for (const auto& [value, freq] : cells) {
+            for (int k = 0; k < ReadMarkupNumber(freq); ++k) data.push_back(ReadMarkupNumber(value));
+        }
+        if (ReadMarkupNumber(cells[1].first) > ReadMarkupNumber(cells[0].first)) continue;
+        ++falling;
+        EXPECT_NEAR(NumberAfter(p.solution, "&+IMe&-I = "), MedianOfList(data), 1e-9) << p.code;
+    }
+    EXPECT_EQ(falling, 20);
+}

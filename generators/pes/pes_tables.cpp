@@ -51,8 +51,11 @@ std::string BarChartMarkup(const BarChart& chart) {
                 Millimetres(4 * chart.heights[i]) + ":";
     }
     text += "&LF";
+    // Under a bar chart each value stands under its bar; under a histogram (one label
+    // more than bars) each class limit stands under the edge between two bars.
+    const bool edges = chart.labels.size() == chart.heights.size() + 1;
     for (int i = 0; i < static_cast<int>(chart.labels.size()); ++i) {
-        const double left = 12 + chart.barStep * (i + 1) - 2;
+        const double left = edges ? 12 + chart.barStep * i : 12 + chart.barStep * (i + 1) - 2;
         text += "&SP=" + Millimetres(left) + ":" + chart.labels[i];
     }
     text += " &+Ix&-I_i&FS=12:&LF";

@@ -50,8 +50,8 @@ const Golden kGolden[] = {
      "F&SP=10:20th percentile = 73&.92&LF&SP=10:&FS=9:&+I&FA&-I_i &LF&SP=10:8&LF&SP=10:7&LF&SP=10:6&LF&SP="
      "10:5&LF&SP=10:4&LF&SP=10:3&LF&SP=10:2&LF&SP=10:1&LF&SP=12:&BC=96;96;128:&FF=REC,0.2,-32:&FF=REC,39,0"
      ".2:&BC=80;200;80:&SP=16:&FF=REC,-6.5,-8:&SP=20:&FF=REC,-6.5,-20:&SP=24:&FF=REC,-6.5,-24:&SP=28:&FF=R"
-     "EC,-6.5,-12:&SP=32:&FF=REC,-6.5,-32:&SP=36:&FF=REC,-6.5,-28:&LF&SP=14:50&SP=18:63&SP=22:76&SP=26:89&"
-     "SP=30:102&SP=34:115&SP=38:128 &+Ix&-I_i&FS=12:&LF"},
+     "EC,-6.5,-12:&SP=32:&FF=REC,-6.5,-32:&SP=36:&FF=REC,-6.5,-28:&LF&SP=12:50&SP=16:63&SP=20:76&SP=24:89&"
+     "SP=28:102&SP=32:115&SP=36:128 &+Ix&-I_i&FS=12:&LF"},
     {"0020108000000202",
      "Calculate mean, median, mode, standard deviation, percentage of data below &+Ix&-I& =& 103 and histo"
      "gram chart based on the following table, where &+I&FA&-I_i denotes the absolute frequency:&LF&SP=10:"
@@ -63,8 +63,8 @@ const Golden kGolden[] = {
      "F&SP=10:Percentage of data below &+Ix&-I& =& 103:  72&.84%&LF&SP=10:&FS=9:&+I&FA&-I_i &LF&SP=10:7&LF"
      "&SP=10:6&LF&SP=10:5&LF&SP=10:4&LF&SP=10:3&LF&SP=10:2&LF&SP=10:1&LF&SP=12:&BC=96;96;128:&FF=REC,0.2,-"
      "28:&FF=REC,32.5,0.2:&BC=220;90;90:&SP=16:&FF=REC,-6.5,-16:&SP=20:&FF=REC,-6.5,-12:&SP=24:&FF=REC,-6."
-     "5,-28:&SP=28:&FF=REC,-6.5,-20:&SP=32:&FF=REC,-6.5,-24:&LF&SP=14:30&SP=18:49&SP=22:68&SP=26:87&SP=30:"
-     "106&SP=34:125 &+Ix&-I_i&FS=12:&LF"},
+     "5,-28:&SP=28:&FF=REC,-6.5,-20:&SP=32:&FF=REC,-6.5,-24:&LF&SP=12:30&SP=16:49&SP=20:68&SP=24:87&SP=28:"
+     "106&SP=32:125 &+Ix&-I_i&FS=12:&LF"},
     {"0020455555000404",
      "Calculate mean, median, mode, standard deviation, percentage of data below &+Ix&-I& =& 75 and histog"
      "ram chart based on the following table, where &+I&FA&-I_i denotes the absolute frequency:&LF&SP=10:&"
@@ -75,7 +75,7 @@ const Golden kGolden[] = {
      "10:Percentage of data below &+Ix&-I& =& 75:  55&.61%&LF&SP=10:&FS=9:&+I&FA&-I_i &LF&SP=10:7&LF&SP=10"
      ":6&LF&SP=10:5&LF&SP=10:4&LF&SP=10:3&LF&SP=10:2&LF&SP=10:1&LF&SP=12:&BC=96;96;128:&FF=REC,0.2,-28:&FF"
      "=REC,26,0.2:&BC=220;90;90:&SP=16:&FF=REC,-6.5,-28:&SP=20:&FF=REC,-6.5,-12:&SP=24:&FF=REC,-6.5,-20:&S"
-     "P=28:&FF=REC,-6.5,-8:&LF&SP=14:55&SP=18:66&SP=22:77&SP=26:88&SP=30:99 &+Ix&-I_i&FS=12:&LF"},
+     "P=28:&FF=REC,-6.5,-8:&LF&SP=12:55&SP=16:66&SP=20:77&SP=24:88&SP=28:99 &+Ix&-I_i&FS=12:&LF"},
     {"0030008888000302",
      "Below is a table of  &+Ix&-I  and  &+Iy&-I values.&LF&SP=10:&BC=230;230;250:&FF=REC,28.2,5.5:#UDL(  "
      "   &+Ix&-I_i             &+Iy&-I_i    #UDL)&LF&SP=11:4&SP=20:30&LF&SP=11:18&SP=20:48&LF&SP=11:28&SP="

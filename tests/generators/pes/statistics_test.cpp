@@ -205,6 +205,15 @@ TEST(PesStatistics, GroupedSweep) {
         const double mode = NumberAfter(p.solution, "&+IMo&-I = ");
         EXPECT_GE(mode, low[modal] - 0.005) << p.code;
         EXPECT_LE(mode, high[modal] + 0.005) << p.code;
+        // The histogram: one bar a class, rising, 4 mm a unit of frequency, bars touching.
+        std::size_t bar = 0;
+        for (int i : order) {
+            bar = p.solution.find(":&FF=REC,-6.5,-", bar);
+            ASSERT_NE(bar, std::string::npos) << p.code;
+            bar += 15;
+            EXPECT_EQ(ReadMarkupNumber(p.solution.substr(bar)), 4 * f[i]) << p.code;
+        }
+        EXPECT_EQ(p.solution.find(":&FF=REC,-6.5,-", bar), std::string::npos) << p.code;
         if (p.statement.find("percentage of data below") != std::string::npos) {
             measures.insert("percentage");
             const double x = NumberAfter(p.statement, "below &+Ix&-I& =& ");
@@ -289,6 +298,10 @@ TEST(PesStatistics, RegressionSweep) {
         EXPECT_GE(at, *std::min_element(x.begin(), x.end())) << p.code;
         EXPECT_LE(at, *std::max_element(x.begin(), x.end())) << p.code;
         EXPECT_NEAR(NumberAfter(p.solution, "#AND(&+Iy&-I#AND) = "), intercept + slope * at, kHalfCent) << p.code;
+        const char* const kUnits[] = {"&LF", " kg&LF", " cm&LF", " g&LF"};
+        const std::string ending = p.solution.substr(p.solution.rfind("#AND) = "));
+        const std::string unit = kUnits[p.fields.Seed % 4];
+        EXPECT_EQ(ending.substr(ending.size() - unit.size()), unit) << p.code;
     });
     EXPECT_EQ(types.size(), 4u);
 }

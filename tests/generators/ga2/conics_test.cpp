@@ -127,10 +127,14 @@ TEST(Ga2Conics, EllipseSweep) {
         double focal2 = 0, a2 = 0;
         bool horizontal = true;
         FocalData(c, true, focal2, a2, horizontal);
-        if (type == 1) EXPECT_NEAR(ReadExact(Between(p.statement, "semimajor axis of length ", ".  ")) ,
-                                   std::sqrt(a2), kEps) << p.code;
-        if (type == 5) EXPECT_NEAR(ReadExact(Between(p.statement, "its eccentricity is ", ".  ")),
-                                   std::sqrt(focal2 / a2), kEps) << p.code;
+        if (type == 1) {
+            EXPECT_NEAR(ReadExact(Between(p.statement, "semimajor axis of length ", ".  ")), std::sqrt(a2), kEps)
+                << p.code;
+        }
+        if (type == 5) {
+            EXPECT_NEAR(ReadExact(Between(p.statement, "its eccentricity is ", ".  ")), std::sqrt(focal2 / a2), kEps)
+                << p.code;
+        }
         if (type == 3 || type == 7) {
             EXPECT_EQ(c.h, 0);
             EXPECT_EQ(c.k, 0);
@@ -173,7 +177,9 @@ TEST(Ga2Conics, HyperbolaSweep) {
         double focal2 = 0, a2 = 0;
         bool horizontal = true;
         FocalData(c, false, focal2, a2, horizontal);
-        if (type == 1) EXPECT_NEAR(ReadExact(Between(p.statement, "semiaxis of length  ", ".  ")), std::sqrt(a2), kEps);
+        if (type == 1) {
+            EXPECT_NEAR(ReadExact(Between(p.statement, "semiaxis of length  ", ".  ")), std::sqrt(a2), kEps);
+        }
         if (type == 5 || type == 8) {
             EXPECT_NEAR(ReadExact(Between(p.statement, type == 5 ? "its eccentricity is " : "hyperbola is ",
                                           type == 5 ? ".  " : "  and")),

@@ -109,10 +109,10 @@ TEST(Ga2Conics, EllipseSweep) {
             EXPECT_NEAR(std::hypot(points[3].x - centre.x, points[3].y - centre.y), a, kEps);
             EXPECT_NEAR(std::hypot(points[5].x - centre.x, points[5].y - centre.y), b, kEps);
             EXPECT_NEAR(ReadExact(Between(p.solution, "&+Ie&-I& =& ")), c / a, kEps) << p.code;
-            if (type == 2) {
-                const General2 g = ReadGeneral(Between(p.statement, "Consider the ellipse  ", ".  "));
-                CheckPoints(p.solution, g, true, p.code);
-            }
+            const std::string equation = Between(p.statement, "Consider the ellipse  ", ".  ");
+            const General2 g = type == 2 || type == 6 ? ReadGeneral(equation) : ReadSquaredForm(equation);
+            CheckPoints(p.solution, g, true, p.code);
+            EXPECT_EQ(type == 0, equation.ends_with("& =& 1")) << p.code;
             if (type == 0 || type == 6) {
                 EXPECT_EQ(centre.x, 0);
                 EXPECT_EQ(centre.y, 0);
@@ -158,10 +158,9 @@ TEST(Ga2Conics, HyperbolaSweep) {
             EXPECT_NEAR(c * c, a * a + b * b, kEps) << p.code;
             EXPECT_NEAR(std::hypot(v1.x - centre.x, v1.y - centre.y), a, kEps);
             EXPECT_NEAR(ReadExact(Between(p.solution, "&+Ie&-I& =& ")), c / a, kEps) << p.code;
-            if (type == 2) {
-                const General2 g = ReadGeneral(Between(p.statement, "Consider the hyperbola  ", ".  "));
-                CheckPoints(p.solution, g, false, p.code);
-            }
+            const std::string equation = Between(p.statement, "Consider the hyperbola  ", ".  ");
+            const General2 g = type == 2 || type == 6 ? ReadGeneral(equation) : ReadSquaredForm(equation);
+            CheckPoints(p.solution, g, false, p.code);
             if (type == 0 || type == 6) {
                 // y = ±(slope) x: the slope is b/a on a horizontal focal axis, a/b on a vertical one.
                 const double slope = ReadExact(Between(p.solution, "&+Iy&-I& =& ±& ", "& &+Ix&-I"));
@@ -227,7 +226,7 @@ TEST(Ga2Conics, ParabolaSweep) {
         // The equation: the set of points as far from the focus as from the directrix.
         std::string equation;
         if (type % 2 == 1) equation = AfterOr(p.solution);
-        else if (type == 2) equation = Between(p.statement, "Consider the parabola  ", ".  ");
+        else if (type == 2 || type == 6) equation = Between(p.statement, "Consider the parabola  ", ".  ");
         if (equation.empty()) return;
         const General2 g = ReadGeneral(equation);
         for (double t = -3; t <= 3; t += 1) {

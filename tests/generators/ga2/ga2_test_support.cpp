@@ -186,3 +186,72 @@ General2 ReadLine(const std::string& text, const std::string& parameter, double 
     }
     return ReadGeneral(text, parameter, value);
 }
+
+General2 ReadSquaredForm(const std::string& equation) {
+    General2 g;
+    const auto eq = equation.find("& =& ");
+    if (eq == std::string::npos) {
+        ADD_FAILURE() << "no equation: " << equation;
+        return g;
+    }
+    const std::string left = equation.substr(0, eq);
+    std::size_t pos = 0;
+    bool first = true;
+    while (pos < left.size()) {
+        double sign = 1;
+        if (Eat(left, pos, "& +& ")) {
+        } else if (Eat(left, pos, "& -& ")) {
+            sign = -1;
+        } else if (first && Eat(left, pos, "-")) {
+            sign = -1;
+        } else if (!first) {
+            ADD_FAILURE() << "bad joiner in '" << left << "' at " << pos;
+            return g;
+        }
+        first = false;
+        const bool fraction = Eat(left, pos, "#COC( ");
+        double factor = 1;
+        std::string digits;
+        while (pos < left.size() && std::isdigit(static_cast<unsigned char>(left[pos]))) digits += left[pos++];
+        if (!digits.empty()) factor = std::stod(digits);
+        double shift = 0;
+        bool isX = true;
+        const bool bracket = Eat(left, pos, "(");
+        if (Eat(left, pos, "&+Ix&-I")) isX = true;
+        else if (Eat(left, pos, "&+Iy&-I")) isX = false;
+        else {
+            ADD_FAILURE() << "no variable in '" << left << "' at " << pos;
+            return g;
+        }
+        if (bracket) {
+            const bool minus = Eat(left, pos, "& -& ");
+            if (!minus && !Eat(left, pos, "& +& ")) {
+                ADD_FAILURE() << "bad shift in '" << left << "'";
+                return g;
+            }
+            const auto close = left.find(")", pos);
+            shift = ReadExact(left.substr(pos, close - pos));
+            if (!minus) shift = -shift;
+            pos = close + 1;
+        }
+        if (!Eat(left, pos, "^2")) {
+            ADD_FAILURE() << "no square in '" << left << "'";
+            return g;
+        }
+        if (fraction) {
+            const auto close = left.find("#COC)", pos);
+            if (!Eat(left, pos, "#N)(") || close == std::string::npos) {
+                ADD_FAILURE() << "bad fraction in '" << left << "'";
+                return g;
+            }
+            factor /= ReadExact(left.substr(pos, close - pos));
+            pos = close + 5;
+        }
+        const double k = sign * factor;
+        (isX ? g.A : g.C) += k;
+        (isX ? g.D : g.E) += -2 * shift * k;
+        g.F += k * shift * shift;
+    }
+    g.F -= ReadExact(equation.substr(eq + 5));
+    return g;
+}

@@ -30,3 +30,7 @@ std::string Between(const std::string& text, const std::string& from, const std:
 // A line of the plane in any of the five forms of the line writer (vector, parametric,
 // symmetric, general, slope-intercept), as D·x + E·y + F = 0 in a General2.
 General2 ReadLine(const std::string& text, const std::string& parameter = "", double value = 0);
+
+// An ellipse or hyperbola in a reduced or cleared form: sums of squared shifts, each with
+// a factor or over a denominator, equal to a number; expanded into a General2.
+General2 ReadSquaredForm(const std::string& equation);

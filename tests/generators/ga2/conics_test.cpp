@@ -69,6 +69,34 @@ void FocalData(const Central& c, bool ellipse, double& focal2, double& a2, bool&
     }
 }
 
+// A parabola in its reduced form "(y - k)^2 = 4p(x - h)" or its cleared form
+// "x - h = (y - k)^2 / 4p", as square - factor·linear = 0.
+General2 ReadParabola(const std::string& equation) {
+    const auto eq = equation.find("& =& ");
+    std::string square, linear, right = equation.substr(eq + 5);
+    double factor = 1;
+    if (right.rfind("#COC( ", 0) == 0 || right.rfind("-#COC( ", 0) == 0) {
+        linear = equation.substr(0, eq);
+        const double sign = right[0] == '-' ? -1 : 1;
+        square = Between(right, "#COC( ", "#N)(");
+        factor = sign * ReadExact(Between(right, "#N)(", "#COC)"));
+    } else {
+        square = equation.substr(0, eq);
+        const auto open = std::min(right.find('('), right.find("&+I"));
+        const std::string prefix = right.substr(0, open);
+        factor = prefix.empty() ? 1 : prefix == "-" ? -1 : ReadExact(prefix);
+        linear = right.substr(open);
+        if (linear.front() == '(') linear = linear.substr(1, linear.size() - 2);
+    }
+    const General2 s = ReadSquaredForm(square + "& =& 0");
+    const General2 l = ReadGeneral(linear + "& =& 0");
+    General2 g = s;
+    g.D -= factor * l.D;
+    g.E -= factor * l.E;
+    g.F -= factor * l.F;
+    return g;
+}
+
 // Checks the labelled points of a text against the conic: foci, centre and vertices.
 void CheckPoints(const std::string& text, const General2& g, bool ellipse, const std::string& code) {
     const Central c = CentralOf(g);
@@ -226,9 +254,11 @@ TEST(Ga2Conics, ParabolaSweep) {
         // The equation: the set of points as far from the focus as from the directrix.
         std::string equation;
         if (type % 2 == 1) equation = AfterOr(p.solution);
-        else if (type == 2 || type == 6) equation = Between(p.statement, "Consider the parabola  ", ".  ");
-        if (equation.empty()) return;
-        const General2 g = ReadGeneral(equation);
+        else equation = Between(p.statement, "Consider the parabola  ", ".  ");
+        const General2 g = type == 0 || type == 4 ? ReadParabola(equation) : ReadGeneral(equation);
+        // Exactly one squared variable, and the other variable to the first power.
+        EXPECT_TRUE((g.A == 0) != (g.C == 0)) << p.code;
+        EXPECT_TRUE(g.A != 0 ? g.E != 0 : g.D != 0) << p.code;
         for (double t = -3; t <= 3; t += 1) {
             // Points of the parabola: vertex + (t, t²/4p) along its axis.
             const double pp = vertical ? focus.y - vertex.y : focus.x - vertex.x;

@@ -1,6 +1,7 @@
 #include "mathservices/poly_markup.h"
 
 #include <cmath>
+#include <vector>
 
 #include "mathservices/arithmetic.h"
 #include "mathservices/number_markup.h"
@@ -154,6 +155,11 @@ std::string VectorFormToMarkup(MathWorkspace& ws, const LineData& line, LineForm
     const int n = space ? 3 : 2;
     const std::string variables[3] = {kX, kY, kZ};
     if (form == LineForm::SlopeIntercept && (space || line.direction[0] == 0)) form = LineForm::General;
+    // A plane line along an axis has no symmetric form (it would divide by 0): the
+    // general form stands in for it.
+    if (form == LineForm::Continuous && !space && (line.direction[0] == 0 || line.direction[1] == 0) &&
+        line.directionTexts[0].empty() && line.directionTexts[1].empty())
+        form = LineForm::General;
     switch (form) {
     case LineForm::Vector:
         return std::string(space ? "(&+Ix,& y,& z&-I)& =& (" : "(&+Ix,& y&-I)& =& (") +
@@ -207,17 +213,27 @@ std::string VectorFormToMarkup(MathWorkspace& ws, const LineData& line, LineForm
         return "#NES({X#RWS(L" + rows + "#RWS)#NES)";
     }
     case LineForm::SlopeIntercept: {
-        const double m = line.direction[1] / line.direction[0];
-        const double q = line.point[1] - m * line.point[0];
+        const double vx = line.direction[0], vy = line.direction[1];
+        const double px = line.point[0], py = line.point[1];
+        const double m = vy / vx;
+        const double q = py - m * px;
+        // With whole data slope and intercept are fractions: written as such, never
+        // guessed from their decimals (which could pass for a multiple of pi).
+        const bool whole = IsWhole(vx) && IsWhole(vy) && IsWhole(px) && IsWhole(py);
+        auto magnitude = [&](double top, double bottom, double value) {
+            return whole ? FractionToMarkup(ws, std::fabs(top), std::fabs(bottom))
+                         : NumberToExactMarkup(ws, std::fabs(value));
+        };
         std::string right;
         if (m != 0) {
-            if (m == -1) right = "-";
-            else if (m != 1) right = NumberToExactMarkup(ws, m);
+            if (m < 0) right = "-";
+            if (std::fabs(m) != 1) right += magnitude(vy, vx, m);
             right += kX;
         }
         if (q != 0 || right.empty()) {
-            if (right.empty()) right = NumberToExactMarkup(ws, q);
-            else right += (q < 0 ? "& -& " : "& +& ") + NumberToExactMarkup(ws, std::fabs(q));
+            const std::string qText = magnitude(py * vx - vy * px, vx, q);
+            if (right.empty()) right = (q < 0 ? "-" : "") + qText;
+            else right += (q < 0 ? "& -& " : "& +& ") + qText;
         }
         return kY + "& =& " + right;
     }
@@ -225,35 +241,73 @@ std::string VectorFormToMarkup(MathWorkspace& ws, const LineData& line, LineForm
     return "";
 }
 
+namespace {
+// Terms joined the textbook way: no coefficient 1 beside a letter, no zero term, no "+ -".
+std::string JoinTerms(const std::vector<std::pair<double, std::string>>& terms) {
+    std::string text;
+    for (const auto& [value, letter] : terms) {
+        if (value == 0) continue;
+        const double magnitude = std::fabs(value);
+        if (text.empty()) text = value < 0 ? "-" : "";
+        else text += value < 0 ? "& -& " : "& +& ";
+        if (magnitude != 1 || letter.empty()) text += NumberToMarkup(magnitude);
+        text += letter;
+    }
+    return text.empty() ? "0" : text;
+}
+} // namespace
+
+ConicGeneral ConicGeneralCoefficients(MathWorkspace& ws, const ConicData& conic) {
+    double A = 0, C = 0, D = 0, E = 0, F = 0;
+    const double h = conic.h, k = conic.k;
+    switch (conic.kind) {
+    case ConicKind::Circle:
+        A = 1; C = 1; D = -2 * h; E = -2 * k; F = h * h + k * k - conic.a2;
+        break;
+    case ConicKind::Ellipse:
+        A = conic.b2; C = conic.a2; D = -2 * h * conic.b2; E = -2 * k * conic.a2;
+        F = conic.b2 * h * h + conic.a2 * k * k - conic.a2 * conic.b2;
+        break;
+    case ConicKind::Hyperbola: {
+        // b²(x - h)² - a²(y - k)² = a²b², or b²(y - k)² - a²(x - h)² = a²b² opening up and down.
+        A = conic.vertical ? -conic.a2 : conic.b2;
+        C = conic.vertical ? conic.b2 : -conic.a2;
+        D = -2 * h * A; E = -2 * k * C;
+        F = A * h * h + C * k * k - conic.a2 * conic.b2;
+        break;
+    }
+    case ConicKind::Parabola:
+        if (conic.vertical) { A = 1; D = -2 * h; E = -conic.a2; F = h * h + conic.a2 * k; }
+        else { C = 1; E = -2 * k; D = -conic.a2; F = k * k + conic.a2 * h; }
+        break;
+    }
+    // Whole coefficients are divided by their common divisor, the lead made positive.
+    const double values[5] = {A, C, D, E, F};
+    bool whole = true;
+    for (double v : values) whole = whole && v == std::floor(v);
+    if (whole) {
+        double g = 0;
+        for (double v : values) g = Gcd(ws, g, std::fabs(v));
+        if (A < 0 || (A == 0 && C < 0)) g = -g;
+        if (g != 0) { A /= g; C /= g; D /= g; E /= g; F /= g; }
+    }
+    return {A, C, D, E, F};
+}
+
 std::string ConicToMarkup(MathWorkspace& ws, const ConicData& conic, ConicStyle style) {
-    if (style == ConicStyle::General) {
-        // Expand the reduced equation into A·x² + C·y² + D·x + E·y + F = 0.
-        double A = 0, C = 0, D = 0, E = 0, F = 0;
-        const double h = conic.h, k = conic.k;
-        switch (conic.kind) {
-        case ConicKind::Circle:
-            A = 1; C = 1; D = -2 * h; E = -2 * k; F = h * h + k * k - conic.a2;
-            break;
-        case ConicKind::Ellipse:
-            A = conic.b2; C = conic.a2; D = -2 * h * conic.b2; E = -2 * k * conic.a2;
-            F = conic.b2 * h * h + conic.a2 * k * k - conic.a2 * conic.b2;
-            break;
-        case ConicKind::Hyperbola: {
-            const double s = conic.vertical ? -1 : 1;
-            A = s * conic.b2; C = -s * conic.a2; D = -2 * h * A; E = -2 * k * C;
-            F = A * h * h + C * k * k - conic.a2 * conic.b2;
-            break;
+    if (style == ConicStyle::General || style == ConicStyle::ConstantRight) {
+        const ConicGeneral g = ConicGeneralCoefficients(ws, conic);
+        if (style == ConicStyle::General) {
+            return JoinTerms({{g.A, kX + "^2"}, {g.C, kY + "^2"}, {g.D, kX}, {g.E, kY}, {g.F, ""}}) + "& =& 0";
         }
-        case ConicKind::Parabola:
-            if (conic.vertical) { A = 1; D = -2 * h; E = -conic.a2; F = h * h + conic.a2 * k; }
-            else { C = 1; E = -2 * k; D = -conic.a2; F = k * k + conic.a2 * h; }
-            break;
+        if (conic.kind == ConicKind::Parabola) {
+            // The squared variable on the left, the linear one on the right.
+            if (conic.vertical) return JoinTerms({{g.A, kX + "^2"}, {g.D, kX}, {g.F, ""}}) + "& =& " +
+                                       JoinTerms({{-g.E, kY}});
+            return JoinTerms({{g.C, kY + "^2"}, {g.E, kY}, {g.F, ""}}) + "& =& " + JoinTerms({{-g.D, kX}});
         }
-        std::string text = PolynomialToMarkup(0, 0, A, D, 0, kX);
-        const std::string yPart = PolynomialToMarkup(0, 0, C, E, F, kY);
-        if (text == "0") text = yPart;
-        else if (yPart != "0") text += StartsWith(yPart, "-") ? "& -& " + yPart.substr(1) : "& +& " + yPart;
-        return text + "& =& 0";
+        return JoinTerms({{g.A, kX + "^2"}, {g.C, kY + "^2"}, {g.D, kX}, {g.E, kY}}) + "& =& " +
+               NumberToMarkup(-g.F == 0 ? 0 : -g.F);
     }
     auto shifted = [&](const std::string& variable, double centre) {
         if (centre == 0) return variable;
@@ -266,19 +320,36 @@ std::string ConicToMarkup(MathWorkspace& ws, const ConicData& conic, ConicStyle 
     auto over = [&](const std::string& top, double bottom) {
         return "#COC( " + top + "#N)(" + NumberToExactMarkup(ws, bottom) + "#COC)";
     };
+    auto times = [&](double factor, const std::string& what) {
+        return (factor == 1 ? "" : NumberToExactMarkup(ws, factor)) + what;
+    };
+    const bool cleared = style == ConicStyle::Cleared;
     switch (conic.kind) {
     case ConicKind::Circle:
         return squared(kX, conic.h) + "& +& " + squared(kY, conic.k) + "& =& " + NumberToExactMarkup(ws, conic.a2);
     case ConicKind::Ellipse:
+        if (cleared) {
+            return times(conic.b2, squared(kX, conic.h)) + "& +& " + times(conic.a2, squared(kY, conic.k)) + "& =& " +
+                   NumberToExactMarkup(ws, conic.a2 * conic.b2);
+        }
         return over(squared(kX, conic.h), conic.a2) + "& +& " + over(squared(kY, conic.k), conic.b2) + "& =& 1";
-    case ConicKind::Hyperbola:
-        if (conic.vertical)
-            return over(squared(kY, conic.k), conic.a2) + "& -& " + over(squared(kX, conic.h), conic.b2) + "& =& 1";
-        return over(squared(kX, conic.h), conic.a2) + "& -& " + over(squared(kY, conic.k), conic.b2) + "& =& 1";
+    case ConicKind::Hyperbola: {
+        const std::string xPart = squared(kX, conic.h), yPart = squared(kY, conic.k);
+        const std::string first = conic.vertical ? yPart : xPart, second = conic.vertical ? xPart : yPart;
+        if (cleared) {
+            return times(conic.b2, first) + "& -& " + times(conic.a2, second) + "& =& " +
+                   NumberToExactMarkup(ws, conic.a2 * conic.b2);
+        }
+        return over(first, conic.a2) + "& -& " + over(second, conic.b2) + "& =& 1";
+    }
     case ConicKind::Parabola: {
-        const std::string factor = NumberToExactMarkup(ws, conic.a2);
-        if (conic.vertical) return squared(kX, conic.h) + "& =& " + factor + "(" + shifted(kY, conic.k) + ")";
-        return squared(kY, conic.k) + "& =& " + factor + "(" + shifted(kX, conic.h) + ")";
+        // a2 holds the factor 4p: (y - k)² = 4p(x - h), or (x - h)² = 4p(y - k).
+        const std::string square = conic.vertical ? squared(kX, conic.h) : squared(kY, conic.k);
+        const std::string linear = conic.vertical ? shifted(kY, conic.k) : shifted(kX, conic.h);
+        if (cleared) return linear + "& =& " + (conic.a2 < 0 ? "-" : "") + over(square, std::fabs(conic.a2));
+        const std::string factor = conic.a2 == -1 ? "-" : conic.a2 == 1 ? "" : NumberToExactMarkup(ws, conic.a2);
+        const bool bare = conic.vertical ? conic.k == 0 : conic.h == 0;
+        return square + "& =& " + factor + (bare ? linear : "(" + linear + ")");
     }
     }
     return "";

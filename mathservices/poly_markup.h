@@ -41,13 +41,23 @@ std::string VectorFormToMarkup(MathWorkspace& ws, const LineData& line, LineForm
 
 // A conic given by its centre (or vertex) and its squared semi-axes.
 enum class ConicKind { Circle, Ellipse, Hyperbola, Parabola };
-enum class ConicStyle { Reduced, General };
+// Reduced: the textbook form ((x - h)²/a² + (y - k)²/b² = 1, (y - k)² = 4p(x - h)).
+// General: A·x² + C·y² + D·x + E·y + F = 0. Cleared: the reduced form without fractions
+// (b²(x - h)² + a²(y - k)² = a²b²; for a parabola x - h = (y - k)²/4p). ConstantRight: the
+// general form with the constant (of a parabola: the linear term) on the right.
+enum class ConicStyle { Reduced, General, Cleared, ConstantRight };
 struct ConicData {
     ConicKind kind = ConicKind::Circle;
     double h = 0;   // centre or vertex, x
     double k = 0;   // centre or vertex, y
-    double a2 = 0;  // radius² of a circle; a² of ellipse and hyperbola; for a parabola its 2p
-    double b2 = 0;  // b² of ellipse and hyperbola
+    double a2 = 0;  // radius² of a circle; a² (under x) of an ellipse, a² of a hyperbola; 4p of a parabola
+    double b2 = 0;  // b² (under y) of an ellipse; b² of a hyperbola
     bool vertical = false;  // hyperbola opening up and down, or parabola x² = 2p·y
 };
 std::string ConicToMarkup(MathWorkspace& ws, const ConicData& conic, ConicStyle style);
+// The coefficients of the general form, whole ones divided by their common divisor with
+// A (or C when A is 0) positive.
+struct ConicGeneral {
+    double A, C, D, E, F;
+};
+ConicGeneral ConicGeneralCoefficients(MathWorkspace& ws, const ConicData& conic);

@@ -6,5 +6,13 @@ GeneratorModule MakeKvolMathGa2() {
     return {"KVOL_MATH_GA2",
             8,
             {
+                {1, VectorsOne},
+                {2, VectorsTwo},
+                {3, LinesOne},
+                {4, LinesTwo},
+                {5, Circle},
+                {6, Ellipse},
+                {7, Hyperbola},
+                {8, Parabola},
             }};
 }

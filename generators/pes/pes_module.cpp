@@ -6,5 +6,9 @@ GeneratorModule MakeKvolMathPes() {
     return {"KVOL_MATH_PES",
             4,
             {
+                {1, UngroupedDataStatistics},
+                {2, GroupedDataStatistics},
+                {3, LinearRegression},
+                {4, NormalDistribution},
             }};
 }

@@ -6,5 +6,7 @@ GeneratorModule MakeKvolMathInt() {
     return {"KVOL_MATH_INT",
             6,
             {
+                {1, IntegralsOfRationalFunctionsI},
+                {2, IntegralsOfRationalFunctionsII},
             }};
 }

@@ -2,3 +2,6 @@
 #include "generators/generator_contract.h"
 
 // The routines of KVOL_MATH_INT, by the number the router gives them.
+
+void IntegralsOfRationalFunctionsI(GeneratorWorkspace& ws);   // 1
+void IntegralsOfRationalFunctionsII(GeneratorWorkspace& ws);  // 2

@@ -8,5 +8,6 @@ GeneratorModule MakeKvolMathInt() {
             {
                 {1, IntegralsOfRationalFunctionsI},
                 {2, IntegralsOfRationalFunctionsII},
+                {5, IntegrationByParts},
             }};
 }

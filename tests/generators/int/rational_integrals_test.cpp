@@ -9,25 +9,7 @@
 #include "support/generator_sweep.h"
 #include "support/markup_lint.h"
 
-namespace {
-// Every item of a list: its antiderivative differentiates back to its integrand, and the
-// items of the statement and the solution match one to one.
-void CheckIntegralList(const GeneratedProblem& p, int minimum) {
-    const int n = std::clamp(p.fields.ItemCount, minimum, 26);
-    const auto items = LetteredItems(p.statement);
-    const auto answers = LetteredItems(p.solution);
-    ASSERT_EQ(static_cast<int>(items.size()), n) << p.code;
-    ASSERT_EQ(static_cast<int>(answers.size()), n) << p.code;
-    std::set<std::string> seen;
-    for (int i = 0; i < n; ++i) {
-        EXPECT_TRUE(seen.insert(items[i]).second) << p.code << " repeats " << items[i];
-        // The mathematics of a few items per problem is enough over thousands of problems.
-        if (i >= 4) continue;
-        const std::string check = CheckAntiderivative(IntegrandOf(items[i]), WithoutConstant(answers[i]));
-        EXPECT_EQ(check, "") << p.code << " item " << i + 1 << ": " << items[i] << "  ->  " << answers[i];
-    }
-}
-} // namespace
+#include "integral_list_test_support.h"
 
 TEST(RationalIntegrals, SweepPartialFractions) {
     SweepRoutine("KVOL_MATH_INT", 1, 2000, [](const GeneratedProblem& p) { CheckIntegralList(p, 1); });

@@ -9,5 +9,6 @@ GeneratorModule MakeKvolMathInt() {
                 {1, IntegralsOfRationalFunctionsI},
                 {2, IntegralsOfRationalFunctionsII},
                 {5, IntegrationByParts},
+                {6, IntegrationBySubstitution},
             }};
 }

@@ -6,3 +6,4 @@
 void IntegralsOfRationalFunctionsI(GeneratorWorkspace& ws);   // 1
 void IntegralsOfRationalFunctionsII(GeneratorWorkspace& ws);  // 2
 void IntegrationByParts(GeneratorWorkspace& ws);             // 5
+void IntegrationBySubstitution(GeneratorWorkspace& ws);      // 6

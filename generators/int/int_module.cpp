@@ -8,6 +8,8 @@ GeneratorModule MakeKvolMathInt() {
             {
                 {1, IntegralsOfRationalFunctionsI},
                 {2, IntegralsOfRationalFunctionsII},
+                {3, AreaInvolvingOneFunction},
+                {4, AreaInvolvingTwoFunctions},
                 {5, IntegrationByParts},
                 {6, IntegrationBySubstitution},
             }};

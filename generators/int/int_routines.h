@@ -5,5 +5,7 @@
 
 void IntegralsOfRationalFunctionsI(GeneratorWorkspace& ws);   // 1
 void IntegralsOfRationalFunctionsII(GeneratorWorkspace& ws);  // 2
+void AreaInvolvingOneFunction(GeneratorWorkspace& ws);       // 3
+void AreaInvolvingTwoFunctions(GeneratorWorkspace& ws);      // 4
 void IntegrationByParts(GeneratorWorkspace& ws);             // 5
 void IntegrationBySubstitution(GeneratorWorkspace& ws);      // 6

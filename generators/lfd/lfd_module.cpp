@@ -6,5 +6,9 @@ GeneratorModule MakeKvolMathLfd() {
     return {"KVOL_MATH_LFD",
             79,
             {
+                {25, LimitsOfPowersInvolvingE},
+                {26, LimitsInvolvingRoots},
+                {27, LimitsInvolvingRationalFunctions},
+                {77, LimitsInvolvingSubtractionOfRoots},
             }};
 }

@@ -2,3 +2,8 @@
 #include "generators/generator_contract.h"
 
 // The routines of KVOL_MATH_LFD, by the number the router gives them.
+
+void LimitsOfPowersInvolvingE(GeneratorWorkspace& ws);           // 25
+void LimitsInvolvingRoots(GeneratorWorkspace& ws);               // 26
+void LimitsInvolvingRationalFunctions(GeneratorWorkspace& ws);   // 27
+void LimitsInvolvingSubtractionOfRoots(GeneratorWorkspace& ws);  // 77

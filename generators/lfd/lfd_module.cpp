@@ -6,6 +6,8 @@ GeneratorModule MakeKvolMathLfd() {
     return {"KVOL_MATH_LFD",
             79,
             {
+                {1, DerivativeOfFunctionsI},
+                {2, DerivativeOfFunctionsII},
                 {25, LimitsOfPowersInvolvingE},
                 {26, LimitsInvolvingRoots},
                 {27, LimitsInvolvingRationalFunctions},

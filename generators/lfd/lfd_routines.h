@@ -3,6 +3,8 @@
 
 // The routines of KVOL_MATH_LFD, by the number the router gives them.
 
+void DerivativeOfFunctionsI(GeneratorWorkspace& ws);             // 1
+void DerivativeOfFunctionsII(GeneratorWorkspace& ws);            // 2
 void LimitsOfPowersInvolvingE(GeneratorWorkspace& ws);           // 25
 void LimitsInvolvingRoots(GeneratorWorkspace& ws);               // 26
 void LimitsInvolvingRationalFunctions(GeneratorWorkspace& ws);   // 27

@@ -11,6 +11,8 @@ GeneratorModule MakeKvolMathLfd() {
                 {25, LimitsOfPowersInvolvingE},
                 {26, LimitsInvolvingRoots},
                 {27, LimitsInvolvingRationalFunctions},
+                {29, TangentAndNormalLines},
+                {33, MaximumsAndMinimums},
                 {77, LimitsInvolvingSubtractionOfRoots},
             }};
 }

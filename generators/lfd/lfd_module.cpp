@@ -13,6 +13,7 @@ GeneratorModule MakeKvolMathLfd() {
                 {27, LimitsInvolvingRationalFunctions},
                 {29, TangentAndNormalLines},
                 {33, MaximumsAndMinimums},
+                {67, DomainOfAFunction},
                 {77, LimitsInvolvingSubtractionOfRoots},
             }};
 }

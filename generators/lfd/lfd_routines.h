@@ -7,6 +7,7 @@ void DerivativeOfFunctionsI(GeneratorWorkspace& ws);             // 1
 void DerivativeOfFunctionsII(GeneratorWorkspace& ws);            // 2
 void TangentAndNormalLines(GeneratorWorkspace& ws);               // 29
 void MaximumsAndMinimums(GeneratorWorkspace& ws);                 // 33
+void DomainOfAFunction(GeneratorWorkspace& ws);                   // 67
 void LimitsOfPowersInvolvingE(GeneratorWorkspace& ws);           // 25
 void LimitsInvolvingRoots(GeneratorWorkspace& ws);               // 26
 void LimitsInvolvingRationalFunctions(GeneratorWorkspace& ws);   // 27

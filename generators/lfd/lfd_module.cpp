@@ -14,6 +14,8 @@ GeneratorModule MakeKvolMathLfd() {
                 {29, TangentAndNormalLines},
                 {33, MaximumsAndMinimums},
                 {67, DomainOfAFunction},
+                {68, ContinuityOfAFunction},
+                {69, DerivabilityOfAFunction},
                 {77, LimitsInvolvingSubtractionOfRoots},
             }};
 }

@@ -8,6 +8,8 @@ void DerivativeOfFunctionsII(GeneratorWorkspace& ws);            // 2
 void TangentAndNormalLines(GeneratorWorkspace& ws);               // 29
 void MaximumsAndMinimums(GeneratorWorkspace& ws);                 // 33
 void DomainOfAFunction(GeneratorWorkspace& ws);                   // 67
+void ContinuityOfAFunction(GeneratorWorkspace& ws);               // 68
+void DerivabilityOfAFunction(GeneratorWorkspace& ws);             // 69
 void LimitsOfPowersInvolvingE(GeneratorWorkspace& ws);           // 25
 void LimitsInvolvingRoots(GeneratorWorkspace& ws);               // 26
 void LimitsInvolvingRationalFunctions(GeneratorWorkspace& ws);   // 27

@@ -12,6 +12,7 @@ GeneratorModule MakeKvolMathLfd() {
                 {26, LimitsInvolvingRoots},
                 {27, LimitsInvolvingRationalFunctions},
                 {29, TangentAndNormalLines},
+                {32, FindingPolynomialFunctions},
                 {33, MaximumsAndMinimums},
                 {67, DomainOfAFunction},
                 {68, ContinuityOfAFunction},

@@ -6,6 +6,7 @@
 void DerivativeOfFunctionsI(GeneratorWorkspace& ws);             // 1
 void DerivativeOfFunctionsII(GeneratorWorkspace& ws);            // 2
 void TangentAndNormalLines(GeneratorWorkspace& ws);               // 29
+void FindingPolynomialFunctions(GeneratorWorkspace& ws);          // 32
 void MaximumsAndMinimums(GeneratorWorkspace& ws);                 // 33
 void DomainOfAFunction(GeneratorWorkspace& ws);                   // 67
 void ContinuityOfAFunction(GeneratorWorkspace& ws);               // 68

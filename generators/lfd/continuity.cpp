@@ -142,7 +142,7 @@ void DerivabilityOfAFunction(GeneratorWorkspace& ws) {
         leadRight += 1;
         bound.Next();
     }
-    const std::string p = "     &SP=17:si  &+Ix&-I ";
+    const std::string p = "&SP=17:si  &+Ix&-I ";
     const std::string at = Num(x0);
     const std::string rows =
         Row(1, SmoothPiece(leadLeft, form == 4, x0, left, slopeLeft), p + "< " + at) +

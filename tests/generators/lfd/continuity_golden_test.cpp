@@ -27,22 +27,22 @@ const Golden kGolden[] = {
      "1(&+Ix&-I &ars 1^+ #ST1)#TST)&+If&-I (&+Ix&-I) = 2,     &+If&-I (1) = 4&LFRemovable discontinuity&LF"},
     {"0690001234000101",
      "Study the continuity and derivability of the following function at the point &+Ix&-I = 1&LF&+If&-I ("
-     "&+Ix&-I) = #NES({X#RWS(L#RW1( #EXP( &+Ix&-I - 1#EXP) + 6     &SP=17:si  &+Ix&-I < 1 #RW1)#RW2( &+Ix&"
-     "-I& +& 6     &SP=17:si  &+Ix&-I &>= 1 #RW2)#RWS)#NES)&LF",
+     "&+Ix&-I) = #NES({X#RWS(L#RW1( #EXP( &+Ix&-I - 1#EXP) + 6&SP=17:si  &+Ix&-I < 1 #RW1)#RW2( &+Ix&-I& +"
+     "& 6&SP=17:si  &+Ix&-I &>= 1 #RW2)#RWS)#NES)&LF",
      "#TST(&+Ilim&-I#TS)(#ST1(&+Ix&-I &ars 1^- #ST1)#TST)&+If&-I (&+Ix&-I) = 7,     #TST(&+Ilim&-I#TS)(#ST"
      "1(&+Ix&-I &ars 1^+ #ST1)#TST)&+If&-I (&+Ix&-I) = 7&LF&+If&-I_ '_ (1^-) = 1,     &+If&-I_ '_ (1^+) = "
      "1&LFContinuous and has derivative.&LF"},
     {"0690001235000101",
      "Study the continuity and derivability of the following function at the point &+Ix&-I = -1&LF&+If&-I "
-     "(&+Ix&-I) = #NES({X#RWS(L#RW1( -2&+Ix&-I& -& 6     &SP=17:si  &+Ix&-I < -1 #RW1)#RW2( -4&+Ix&-I& -& "
-     "8     &SP=17:si  &+Ix&-I &>= -1 #RW2)#RWS)#NES)&LF",
+     "(&+Ix&-I) = #NES({X#RWS(L#RW1( -2&+Ix&-I& -& 6&SP=17:si  &+Ix&-I < -1 #RW1)#RW2( -4&+Ix&-I& -& 8&SP="
+     "17:si  &+Ix&-I &>= -1 #RW2)#RWS)#NES)&LF",
      "#TST(&+Ilim&-I#TS)(#ST1(&+Ix&-I &ars -1^- #ST1)#TST)&+If&-I (&+Ix&-I) = -4,     #TST(&+Ilim&-I#TS)(#"
      "ST1(&+Ix&-I &ars -1^+ #ST1)#TST)&+If&-I (&+Ix&-I) = -4&LF&+If&-I_ '_ (-1^-) = -2,     &+If&-I_ '_ (-"
      "1^+) = -4&LFContinuous and hasn't derivative.&LF"},
     {"0690001236000101",
      "Study the continuity and derivability of the following function at the point &+Ix&-I = -3&LF&+If&-I "
-     "(&+Ix&-I) = #NES({X#RWS(L#RW1( 2&+Ix&-I^2& +& 15&+Ix&-I& +& 32     &SP=17:si  &+Ix&-I < -3 #RW1)#RW2"
-     "( 7&+Ix&-I& +& 36     &SP=17:si  &+Ix&-I &>= -3 #RW2)#RWS)#NES)&LF",
+     "(&+Ix&-I) = #NES({X#RWS(L#RW1( 2&+Ix&-I^2& +& 15&+Ix&-I& +& 32&SP=17:si  &+Ix&-I < -3 #RW1)#RW2( 7&+"
+     "Ix&-I& +& 36&SP=17:si  &+Ix&-I &>= -3 #RW2)#RWS)#NES)&LF",
      "#TST(&+Ilim&-I#TS)(#ST1(&+Ix&-I &ars -3^- #ST1)#TST)&+If&-I (&+Ix&-I) = 5,     #TST(&+Ilim&-I#TS)(#S"
      "T1(&+Ix&-I &ars -3^+ #ST1)#TST)&+If&-I (&+Ix&-I) = 15&LFHas a jump discontinuity and hasn't derivati"
      "ve.&LF"},

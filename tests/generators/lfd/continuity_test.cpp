@@ -66,7 +66,7 @@ void CheckContinuity(const GeneratedProblem& p) {
 }
 
 void CheckDerivability(const GeneratedProblem& p) {
-    const auto rows = ReadRows(p.statement, "     &SP=17:si  &+Ix&-I ");
+    const auto rows = ReadRows(p.statement, "&SP=17:si  &+Ix&-I ");
     ASSERT_EQ(rows.size(), 2u) << p.statement;
     const double x0 = rows[0].point, h = 1e-6;
     const double left = Value(rows, x0 - 1e-9), right = Value(rows, x0);

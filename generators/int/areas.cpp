@@ -29,17 +29,9 @@ std::string PowerOfE(double n) {
     return "#EXP( " + Num(n) + "#EXP)";
 }
 
-// The integral of a polynomial (coefficients by degree) from a to b.
-double PolynomialIntegral(const std::vector<double>& c, double a, double b) {
-    double total = 0;
-    for (std::size_t k = 0; k < c.size(); ++k) {
-        total += c[k] * (std::pow(b, k + 1) - std::pow(a, k + 1)) / (k + 1);
-    }
-    return total;
-}
-
-// The same, as an exact fraction over 12·60 = 720, enough for degrees up to 3 and whole
-// limits: numerator returned, denominator 720.
+// The integral of a polynomial (coefficients by degree) from a to b, as an exact
+// fraction over 720, enough for degrees up to 3 and whole limits: the numerator is
+// returned, the denominator is 720.
 double PolynomialIntegral720(const std::vector<double>& c, double a, double b) {
     double total = 0;
     for (std::size_t k = 0; k < c.size(); ++k) {

@@ -46,7 +46,9 @@ void CheckAreaAnswer(const GeneratedProblem& p, double numeric) {
     EXPECT_GT(value, 0) << p.code;
     EXPECT_NEAR(value, numeric, 1e-6 * std::max(1.0, numeric)) << p.code << "\n" << p.statement << "\n" << p.solution;
     const std::string rounded = Between(p.solution, "&aprox  ", {" u^2"});
-    if (!rounded.empty()) EXPECT_NEAR(EvaluateMarkup(rounded, 0), value, 0.0051) << p.code << " " << p.solution;
+    if (!rounded.empty()) {
+        EXPECT_NEAR(EvaluateMarkup(rounded, 0), value, 0.0051) << p.code << " " << p.solution;
+    }
     EXPECT_EQ(p.solution.substr(p.solution.size() - 8), " u^2.&LF") << p.code;
 }
 

@@ -82,7 +82,9 @@ TEST(CalculusCatalogue, EveryRoutineDescribesItselfAsListed) {
             EXPECT_EQ(e.TopicName, Utf8PadRight(x.topicName, 80)) << x.title;
             EXPECT_EQ(e.SubtopicId, x.subtopic) << x.title;
             EXPECT_EQ(e.Kind, x.kind) << x.title;
-            if (*x.maxAmount) EXPECT_EQ(e.MaxAmount, x.maxAmount) << x.title;
+            if (*x.maxAmount) {
+                EXPECT_EQ(e.MaxAmount, x.maxAmount) << x.title;
+            }
             EXPECT_EQ(e.Title, Utf8PadRight(x.title, 80));
             EXPECT_EQ(e.Description, Utf8PadRight(x.description, 160));
         }

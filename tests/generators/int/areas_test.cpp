@@ -158,3 +158,14 @@ TEST(Areas, SweepTwoFunctions) {
         }
     });
 }
+
+TEST(Areas, TwoFunctionTypesFollowTheSeed) {
+    GeneratorHub hub;
+    const char* openings[] = {"Calculate the area between the parabola  &+Iy&-I& =& ",
+                              "Calculate the area between the hyperbola  &+Iy&-I& =& ",
+                              "The area between the parabola  &+Iy&-I& =& &+I", "The curve  &+Iy&-I& =& &+I"};
+    for (int seed = 40; seed < 60; ++seed) {
+        const GeneratedProblem p = GenerateProblem(hub, "KVOL_MATH_INT", {4, seed, seed, 0, 1, 1});
+        EXPECT_EQ(p.statement.rfind(openings[seed % 4], 0), 0u) << p.statement;
+    }
+}

@@ -106,3 +106,18 @@ TEST(Limits, SparseNumbersOnly) {
         EXPECT_EQ(p.solution, "&LF");
     }
 }
+
+TEST(Limits, TypesFollowTheSeed) {
+    GeneratorHub hub;
+    for (int seed = 100; seed < 130; ++seed) {
+        // Roots: the root stands above the bar for even seeds, below it for odd ones.
+        const GeneratedProblem r = GenerateProblem(hub, "KVOL_MATH_LFD", {26, 0, seed, 0, 1, 1});
+        const auto bar = r.statement.find("#N)(");
+        EXPECT_EQ(r.statement.find("#SQR(") < bar, seed % 2 == 0) << r.statement;
+        // Powers of e: 1 + a/(bx) for seeds divisible by 3, quotients otherwise.
+        const GeneratedProblem e = GenerateProblem(hub, "KVOL_MATH_LFD", {25, 0, seed, 0, 1, 1});
+        const bool plain = e.statement.find("#NES(()1 + #COC(") != std::string::npos ||
+                           e.statement.find("#NES(()1 - #COC(") != std::string::npos;
+        EXPECT_EQ(plain, seed % 3 == 0) << e.statement;
+    }
+}

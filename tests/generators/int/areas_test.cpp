@@ -92,8 +92,9 @@ TEST(Areas, BandsOfDifficultyThroughTheGroup) {
         if (p.statement.find("the parabola") != std::string::npos) return 8;
         if (p.statement.find("ln_") != std::string::npos) return 3;
         if (p.statement.find("#EXP(") != std::string::npos) return 2;
+        // p·x + q/x + c has its fraction after a plus; the hyperbola a/(x + b) stands alone.
         if (p.statement.find("#COC(") != std::string::npos)
-            return p.statement.find("#N)(&+Ix&-I#COC)") != std::string::npos ? 1 : 7;
+            return p.statement.find("& +& #COC(") != std::string::npos ? 1 : 7;
         return 0;  // a polynomial between lines: 4, 5 or 6
     };
     for (int seed : {10, 2000, 7777}) {

@@ -6,5 +6,11 @@ GeneratorModule MakeKvolMathInt() {
     return {"KVOL_MATH_INT",
             6,
             {
+                {1, IntegralsOfRationalFunctionsI},
+                {2, IntegralsOfRationalFunctionsII},
+                {3, AreaInvolvingOneFunction},
+                {4, AreaInvolvingTwoFunctions},
+                {5, IntegrationByParts},
+                {6, IntegrationBySubstitution},
             }};
 }

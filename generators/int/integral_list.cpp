@@ -1,0 +1,62 @@
+#include "generators/int/integral_list.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "mathservices/arithmetic.h"
+#include "mathservices/number_markup.h"
+
+IntegralList::IntegralList(GeneratorWorkspace& ws, int minimum, ColumnMarks statementColumns)
+    : ws_(ws), statementColumns_(std::move(statementColumns)) {
+    count_ = std::clamp(static_cast<int>(ws.ItemCount), minimum, 26);
+}
+
+bool IntegralList::IsRepeat(const std::string& statementText) const {
+    return std::find(statements_.begin(), statements_.end(), statementText) != statements_.end();
+}
+
+void IntegralList::Add(const std::string& statementText, const std::string& solutionText) {
+    statements_.push_back(statementText);
+    solutions_.push_back(solutionText);
+}
+
+void IntegralList::Write() {
+    const int n = static_cast<int>(statements_.size());
+    std::string statement = "&-ISolve the following integrals:&LF";
+    for (int i = 1; i <= n; ++i) {
+        // Item numbers 1, 2, 0 modulo 3 take the first, second and third column.
+        const int column = (i - 1) % 3;
+        statement += statementColumns_[column] + "&+B" + ItemLetter(i) + ")&-B " + statements_[i - 1];
+        if (column == 2 || i == n) statement += "&LF&LF";
+    }
+    std::string solution;
+    for (int i = 1; i <= n; ++i) {
+        const int column = (i - 1) % 2;
+        solution += kIntegralSolutionColumns[column] + "&+B" + ItemLetter(i) + ")&-B " + solutions_[i - 1];
+        if (column == 1 || i == n) solution += "&LF";
+    }
+    ws_.Statement = statement;
+    ws_.Solution = solution;
+}
+
+std::string ShiftedVariable(const std::string& variable, double p) {
+    if (p == 0) return variable;
+    return variable + (p > 0 ? " + " : " - ") + PlainNumberText(std::fabs(p));
+}
+
+void AppendTerm(MathWorkspace& ws, std::string& sum, double num, double den, const std::string& body) {
+    if (num == 0) return;
+    if (den < 0) {
+        num = -num;
+        den = -den;
+    }
+    const double g = Gcd(ws, std::fabs(num), den);
+    num /= g;
+    den /= g;
+    const bool negative = num < 0;
+    std::string coefficient;
+    if (std::fabs(num) != 1 || den != 1 || body.empty()) coefficient = FractionToMarkup(ws, std::fabs(num), den);
+    if (sum.empty()) sum = negative ? "-" : "";
+    else sum += negative ? " - " : " + ";
+    sum += coefficient + body;
+}

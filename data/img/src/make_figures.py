@@ -555,14 +555,15 @@ def vertex_label(f, p, s, dx, dy):
 
 
 def triangle_with_height():
+    """Triangle ABC with its height AD onto BC, the foot D inside BC; angles B and C marked."""
     f = Figure("m_trigo_tria_hch", 46, 30.94)
     B, C, A = (3, 27), (43, 27), (15, 4)
     D = (15, 27)
     f.polygon([A, B, C])
     f.line(A, D, dash=True)
     f.right_angle(D, C, A, 1.8)
-    f.angle(B, C, A, 4.5, "&#946;", 6.8)
-    f.angle(C, A, B, 5.5, "&#947;", 8.2)
+    f.angle(B, C, A, 4.5)
+    f.angle(C, A, B, 5.5)
     vertex_label(f, A, "A", 0, -2.2)
     vertex_label(f, B, "B", -1.6, 1.4)
     vertex_label(f, C, "C", 1.6, 1.4)
@@ -571,29 +572,31 @@ def triangle_with_height():
 
 
 def two_right_triangles():
+    """Right triangles ABC and ABD, the right angle at B, C between B and D; angles C and D marked."""
     f = Figure("m_trigo_tria_hhc", 37, 26.825)
-    C, D, B, A = (3, 23.5), (18, 23.5), (34, 23.5), (34, 3.5)
-    f.polygon([C, B, A], fill=FILL)
-    f.polygon([D, B, A], fill=FILL2)
-    f.right_angle(B, C, A, 1.8)
-    f.angle(C, B, A, 5.5, "&#945;", 8.0)
-    f.angle(D, B, A, 3.8, "&#946;", 6.0)
+    D, C, B, A = (3, 23.5), (18, 23.5), (34, 23.5), (34, 3.5)
+    f.polygon([D, B, A], fill=FILL)
+    f.polygon([C, B, A], fill=FILL2)
+    f.right_angle(B, D, A, 1.8)
+    f.angle(D, B, A, 5.5)
+    f.angle(C, B, A, 3.8)
     vertex_label(f, A, "A", 1.8, -0.6)
     vertex_label(f, B, "B", 1.8, 1.2)
-    vertex_label(f, C, "C", -1.4, 1.8)
-    vertex_label(f, D, "D", 0, 2.3)
+    vertex_label(f, C, "C", 0, 2.3)
+    vertex_label(f, D, "D", -1.4, 1.8)
     f.save()
 
 
 def rhomboid_with_angle():
+    """Rhomboid ABCD on the base AB, its height from D, the diagonal BD; angle A marked."""
     f = Figure("m_trigo_romde", 49, 20.59)
     A, B, C, D = (3, 17.5), (33, 17.5), (46, 3), (16, 3)
     f.polygon([A, B, C, D])
-    f.line(A, C, dash=True, width=0.24)
+    f.line(B, D, dash=True, width=0.24)
     H = (16, 17.5)
     f.line(D, H, dash=True, width=0.24)
     f.right_angle(H, B, D, 1.5)
-    f.angle(A, B, D, 4.2, "&#945;", 6.6)
+    f.angle(A, B, D, 4.2)
     vertex_label(f, A, "A", -1.6, 1.2)
     vertex_label(f, B, "B", 1.0, 2.0)
     vertex_label(f, C, "C", 1.6, -0.8)
@@ -602,6 +605,7 @@ def rhomboid_with_angle():
 
 
 def rhombus_with_diagonals():
+    """Rhombus ABCD with its diagonals AC and BD meeting at right angles; angle A marked."""
     f = Figure("m_trigo_rombo", 42, 26.985)
     A, B, C, D = (3, 13.5), (21, 3), (39, 13.5), (21, 24)
     f.polygon([A, B, C, D])
@@ -609,27 +613,28 @@ def rhombus_with_diagonals():
     f.line(B, D, dash=True, width=0.24)
     O = (21, 13.5)
     f.right_angle(O, C, B, 1.4)
-    f.angle(A, B, D, 5.0, "&#945;", 7.4)
+    f.angle(A, B, D, 5.0)
     vertex_label(f, A, "A", -1.8, 0)
     vertex_label(f, B, "B", 0, -2.0)
     vertex_label(f, C, "C", 1.8, 0)
     vertex_label(f, D, "D", 0, 2.2)
-    vertex_label(f, O, "O", 1.6, 1.6)
     f.save()
 
 
 def trapezoid_with_angle():
+    """Right trapezoid ABCD: AB the longer base, right angles at B and C, AD slanted; angle A marked."""
     f = Figure("m_trigo_trape", 42, 22.019)
-    A, B, C, D = (3, 19), (39, 19), (28, 3.5), (12, 3.5)
+    A, B, C, D = (3, 19), (39, 19), (39, 3.5), (15, 3.5)
     f.polygon([A, B, C, D])
-    H = (12, 19)
+    H = (15, 19)
     f.line(D, H, dash=True, width=0.24)
     f.right_angle(H, B, D, 1.5)
-    f.angle(A, B, D, 4.4, "&#945;", 6.8)
-    f.angle(B, C, A, 4.4, "&#946;", 6.8)
+    f.right_angle(B, A, C, 1.8)
+    f.right_angle(C, B, D, 1.8)
+    f.angle(A, B, D, 4.4)
     vertex_label(f, A, "A", -1.6, 1.2)
     vertex_label(f, B, "B", 1.6, 1.2)
-    vertex_label(f, C, "C", 1.4, -1.6)
+    vertex_label(f, C, "C", 1.6, -1.4)
     vertex_label(f, D, "D", -1.4, -1.6)
     f.save()
 

@@ -17,14 +17,14 @@ const std::vector<ConstructTag> kTags = [] {
         {U"#NES(", U"#NES)", DelimiterHandler, false},
         {U"#RWS(", U"#RWS)", RowsHandler, true},
         {U"#CEQ(", U"#CEQ)", EmptyConstructHandler, true},
-        {U"#INT(", U"#INT)", EmptyConstructHandler, false},
+        {U"#INT(", U"#INT)", IntegralHandler, false},
         {U"#UDB(", U"#UDB)", EmptyConstructHandler, false},
-        {U"#IMG(", U"#IMG)", EmptyConstructHandler, false},
-        {U"#TST(", U"#TST)", EmptyConstructHandler, false},
+        {U"#IMG(", U"#IMG)", ImageHandler, false},
+        {U"#TST(", U"#TST)", HeadingHandler, false},
     };
     for (const char32_t* name : {U"VEC", U"VED", U"SEG", U"UDL", U"SED", U"AND", U"ARC", U"TDX", U"TDU", U"TDD", U"REC"}) {
         const std::u32string n = name;
-        tags.push_back({U"#" + n + U"(", U"#" + n + U")", EmptyConstructHandler, false});
+        tags.push_back({U"#" + n + U"(", U"#" + n + U")", MarkHandler, false});
     }
     for (char32_t kind : {U'V', U'L', U'I', U'D'}) {
         for (char32_t digit = U'3'; digit <= U'9'; ++digit) {

@@ -1,6 +1,11 @@
 #include "typesetter/qt_surface.h"
 
+#include "typesetter/typesetter_state.h"
+
+#include <QCoreApplication>
+#include <QDir>
 #include <QImageReader>
+#include <QStandardPaths>
 #include <QTextLayout>
 #include <QPagedPaintDevice>
 #include <QPen>
@@ -15,11 +20,13 @@ QString ToQString(const std::string& s) { return QString::fromUtf8(s.data(), sta
 
 QStringList QtSurface::FamiliesFor(const std::string& fontName) {
     // The fonts that the markup names, and their metric twins on this system. The symbol
-    // fonts' codes are printed as Unicode characters, which DejaVu has.
+    // fonts' codes are printed as Unicode characters.
     if (fontName == "Times New Roman") return {"Liberation Serif", "DejaVu Serif"};
     if (fontName == "Arial") return {"Liberation Sans", "DejaVu Sans"};
     if (fontName == "Courier New") return {"Liberation Mono", "DejaVu Sans Mono"};
-    if (fontName == "Symbol" || fontName == "MT Extra") return {"DejaVu Serif", "DejaVu Sans"};
+    // Greek letters and the common signs come from the text face, so that they match it;
+    // the rest from DejaVu.
+    if (fontName == "Symbol" || fontName == "MT Extra") return {"Liberation Serif", "DejaVu Serif", "DejaVu Sans"};
     return {ToQString(fontName), "Liberation Serif", "DejaVu Sans"};
 }
 
@@ -221,4 +228,28 @@ bool QtSurface::PaintPicture(const std::string& pictureFile, double x, double y,
     painter_.drawImage(QRectF(0, 0, std::fabs(width), std::fabs(height)), picture);
     painter_.restore();
     return true;
+}
+
+bool ReadPictureSize(const std::string& file, double& width, double& height) {
+    QImageReader reader(ToQString(file));
+    const QImage picture = reader.read();
+    if (picture.isNull()) return false;
+    width = picture.width();
+    height = picture.height();
+    return true;
+}
+
+void UseQtPictures(TypesetterState& state) {
+    state.LoadPicture = ReadPictureSize;
+    const QString program = QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QDir::currentPath();
+    state.PictureFolder.clear();
+    for (const QString& candidate : {program + "/img", program + "/data/img", program + "/../data/img",
+                                     program + "/../../data/img"}) {
+        if (QDir(candidate).exists()) {
+            state.PictureFolder = QDir(candidate).absolutePath().toStdString();
+            break;
+        }
+    }
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    state.TempPictureFolder = data.isEmpty() ? std::string() : (data + "/temp").toStdString();
 }

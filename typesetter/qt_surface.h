@@ -112,3 +112,10 @@ private:
     std::map<FontKey, std::unique_ptr<FontEntry>> fonts_;
     FontEntry* current_ = nullptr;
 };
+
+struct TypesetterState;
+// Gives the typesetter its picture loader and folders: "img" beside the program (or the
+// data folder of a checkout), and the per-user "temp" folder.
+void UseQtPictures(TypesetterState& state);
+// Reads a picture file whole; false when it isn't a picture this system can decode.
+bool ReadPictureSize(const std::string& file, double& width, double& height);

@@ -63,5 +63,6 @@ inline void MeasureAndDraw(TypesetterState& st, RecordingSurface& s, const std::
     s.SetForeColor(color);
     s.texts.clear();
     s.strokes.clear();
+    s.pictures.clear();
     DrawString(st, s, text, x, y);
 }

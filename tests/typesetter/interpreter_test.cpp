@@ -285,14 +285,6 @@ TEST(ExpandLocaleCodesTest, AllSix) {
     EXPECT_EQ(ExpandLocaleCodes(st, U"3&.5"), U"3,5");
 }
 
-TEST_F(Interpreter, PlaceholderConstructIsAnEmptyBox) {
-    // A construct with no drawing of its own is cut out whole and takes no width.
-    const LayoutBox b = Measure("a#UDB(x#UDB)b");
-    EXPECT_DOUBLE_EQ(b.width, 2 * (0.5 * kEm + 2));
-    Draw("a#UDB(x#UDB)b");
-    EXPECT_EQ(s.Joined(), "ab");
-}
-
 TEST_F(Interpreter, MeasureAndDrawTakeTheSameBoxNumbers) {
     const std::string text = "a#COC(1#N)(2#COC)b#SQR(x#SQR)#POT(2#PB)(3#POT)#NES(()#RWS(C#RW1(1#RW1)#RW2(2#RW2)#RWS)#NES)";
     MeasureString(st, s, text);

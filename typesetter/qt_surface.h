@@ -92,6 +92,7 @@ private:
 
     QPainter painter_;
     QPaintDevice* device_ = nullptr;
+    bool screenPicture_ = false; // straight strokes are snapped to whole pixels there
     QImage reference_; // 1440 dpi: metrics come out in twips
     double deviceDpi_ = 96;
     double width_ = 0, height_ = 0;

@@ -235,7 +235,8 @@ void Interpreter::Run() {
         if (!st_.DrawPass) {
             const double used = UsedWidth();
             if (used + st_.LineIndent + st_.MarginLeft + st_.MarginRight > st_.PageWidth) {
-                head_ = text_.substr(0, breakAt_ != 0 ? breakAt_ : std::min(p, len));
+                // A head handed up from the body of delimiters stands: the line is cut there.
+                if (head_.empty()) head_ = text_.substr(0, breakAt_ != 0 ? breakAt_ : std::min(p, len));
                 break;
             }
             if (breakPoint) breakAt_ = p; // the token's last position, 1-based

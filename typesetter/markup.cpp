@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 #include "typesetter/constructs.h"
 #include "typesetter/text_util.h"
@@ -9,8 +10,11 @@
 namespace {
 const std::u32string kErrorHead = U"&FC=Rojo:*ERROR*&FC=Negro:";
 
-bool At(const std::u32string& text, std::size_t pos, const std::u32string& what) {
-    return text.compare(pos, what.size(), what) == 0 && pos + what.size() <= text.size();
+bool At(const std::u32string& text, std::size_t pos, std::u32string_view what) {
+    if (pos + what.size() > text.size()) return false;
+    for (std::size_t i = 0; i < what.size(); ++i)
+        if (text[pos + i] != what[i]) return false;
+    return true;
 }
 
 bool IsUprightCharacter(char32_t c) {

@@ -185,7 +185,10 @@ void QtSurface::PrintText(const std::string& text) {
         }
         found = f.runs.insert(key, runs);
     }
-    painter_.setPen(ToQColor(foreColor_));
+    if (penColor_ != foreColor_) {
+        painter_.setPen(ToQColor(foreColor_));
+        penColor_ = foreColor_;
+    }
     for (const QGlyphRun& run : *found) painter_.drawGlyphRun(QPointF(x_, y_), run);
     const double width = TextWidth(text);
     if (underline_ || strikethru_) {
@@ -202,6 +205,7 @@ void QtSurface::Line(double x1, double y1, double x2, double y2, std::optional<s
     pen.setWidthF(drawWidth_ * twipsPerPixelX_);
     pen.setCapStyle(drawWidth_ > 1 ? Qt::RoundCap : Qt::SquareCap);
     painter_.setPen(pen);
+    penColor_ = 0xFFFFFFFF;
     if (screenPicture_ && (x1 == x2 || y1 == y2)) {
         // A bar or a stem across pixel rows looks grey and blurred: put it on whole pixels.
         auto snap = [&](double v, double tpp) {
@@ -222,6 +226,7 @@ void QtSurface::Circle(double cx, double cy, double radius) {
     QPen pen(ToQColor(foreColor_));
     pen.setWidthF(drawWidth_ * twipsPerPixelX_);
     painter_.setPen(pen);
+    penColor_ = 0xFFFFFFFF;
     painter_.setBrush(fillStyle_ == 0 ? QBrush(ToQColor(foreColor_)) : QBrush(Qt::NoBrush));
     painter_.drawEllipse(QPointF(cx, cy), radius, radius);
     painter_.setBrush(Qt::NoBrush);

@@ -293,3 +293,15 @@ TEST_F(Interpreter, MeasureAndDrawTakeTheSameBoxNumbers) {
     EXPECT_EQ(st.BoxCounter, measured);
     EXPECT_GT(measured, 1);
 }
+
+TEST(LeadingNumberTest, DecimalWithAPointWhateverTheLocale) {
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"12.5:"), 12.5);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U" -3.25mm"), -3.25);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"+7"), 7);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U".5"), 0.5);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"007"), 7);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"1,5"), 1);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"abc"), 0);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U""), 0);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"inf"), 0);
+}

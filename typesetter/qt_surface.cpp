@@ -1,0 +1,270 @@
+#include "typesetter/qt_surface.h"
+
+#include "typesetter/typesetter_state.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QImageReader>
+#include <QStandardPaths>
+#include <QTextLayout>
+#include <QPagedPaintDevice>
+#include <QPen>
+#include <cmath>
+
+namespace {
+// Dots per metre of a 1440 dpi device: font metrics measured on it are in twips.
+constexpr int kTwipDotsPerMeter = 56693;
+
+QString ToQString(const std::string& s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+} // namespace
+
+QStringList QtSurface::FamiliesFor(const std::string& fontName) {
+    // The fonts that the markup names, and their metric twins on this system. The symbol
+    // fonts' codes are printed as Unicode characters.
+    if (fontName == "Times New Roman") return {"Liberation Serif", "DejaVu Serif"};
+    if (fontName == "Arial") return {"Liberation Sans", "DejaVu Sans"};
+    if (fontName == "Courier New") return {"Liberation Mono", "DejaVu Sans Mono"};
+    // Greek letters and the common signs come from the text face, so that they match it;
+    // the rest from DejaVu.
+    if (fontName == "Symbol" || fontName == "MT Extra") return {"Liberation Serif", "DejaVu Serif", "DejaVu Sans"};
+    return {ToQString(fontName), "Liberation Serif", "DejaVu Sans"};
+}
+
+QColor QtSurface::ToQColor(std::uint32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
+
+QtSurface::QtSurface(QImage& image) : reference_(1, 1, QImage::Format_ARGB32) {
+    width_ = image.width();
+    height_ = image.height();
+    twipsPerPixelX_ = twipsPerPixelY_ = 15;
+    screenPicture_ = true;
+    Begin(image);
+}
+
+QtSurface::QtSurface(QPagedPaintDevice& device) : reference_(1, 1, QImage::Format_ARGB32) {
+    twipsPerPixelX_ = 1440.0 / device.logicalDpiX();
+    twipsPerPixelY_ = 1440.0 / device.logicalDpiY();
+    width_ = device.width() * twipsPerPixelX_;
+    height_ = device.height() * twipsPerPixelY_;
+    Begin(device);
+}
+
+void QtSurface::Begin(QPaintDevice& device) {
+    reference_.setDotsPerMeterX(kTwipDotsPerMeter);
+    reference_.setDotsPerMeterY(kTwipDotsPerMeter);
+    deviceDpi_ = device.logicalDpiY();
+    device_ = &device;
+    nameId_ = NameId(fontName_);
+    painter_.begin(&device);
+    painter_.setRenderHint(QPainter::Antialiasing, true);
+    painter_.setRenderHint(QPainter::TextAntialiasing, true);
+    painter_.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    painter_.scale(1.0 / twipsPerPixelX_, 1.0 / twipsPerPixelY_);
+}
+
+QtSurface::~QtSurface() { End(); }
+
+void QtSurface::End() {
+    if (painter_.isActive()) painter_.end();
+}
+
+QtSurface::FontEntry& QtSurface::Current() {
+    if (current_) return *current_;
+    const FontKey key{nameId_, fontSize_, (bold_ ? 1 : 0) | (italic_ ? 2 : 0) | (underline_ ? 4 : 0) | (strikethru_ ? 8 : 0)};
+    auto found = fonts_.find(key);
+    if (found == fonts_.end()) {
+        QFont measure;
+        measure.setFamilies(FamiliesFor(fontName_));
+        measure.setPointSizeF(fontSize_ > 0.05 ? fontSize_ : 0.05);
+        measure.setBold(bold_);
+        measure.setItalic(italic_);
+        measure.setUnderline(underline_);
+        measure.setStrikeOut(strikethru_);
+        measure.setHintingPreference(QFont::PreferNoHinting);
+        measure.setKerning(false);
+        QFontMetricsF metrics(measure, &reference_);
+        QFont draw = measure;
+        // The painter's unit is the twip: a font of size points must come out 20·size
+        // units high on a device of deviceDpi_.
+        draw.setPointSizeF(measure.pointSizeF() * 1440.0 / deviceDpi_);
+        auto entry = std::unique_ptr<FontEntry>(
+            new FontEntry{draw, metrics, metrics.ascent(), metrics.height(), {}});
+        found = fonts_.emplace(key, std::move(entry)).first;
+    }
+    current_ = found->second.get();
+    return *current_;
+}
+
+int QtSurface::NameId(const std::string& name) {
+    for (std::size_t i = 0; i < names_.size(); ++i)
+        if (names_[i] == name) return static_cast<int>(i);
+    names_.push_back(name);
+    return static_cast<int>(names_.size() - 1);
+}
+
+void QtSurface::SetFontName(const std::string& name) {
+    if (name == fontName_) return;
+    current_ = nullptr;
+    fontName_ = name;
+    nameId_ = NameId(name);
+}
+void QtSurface::SetFontSize(double points) {
+    if (!(points > 0) || !std::isfinite(points)) points = 0.05;
+    if (points > 2000) points = 2000;
+    if (points != fontSize_) current_ = nullptr;
+    fontSize_ = points;
+}
+void QtSurface::SetFontBold(bool on) {
+    if (on != bold_) current_ = nullptr;
+    bold_ = on;
+}
+void QtSurface::SetFontItalic(bool on) {
+    if (on != italic_) current_ = nullptr;
+    italic_ = on;
+}
+void QtSurface::SetFontUnderline(bool on) {
+    if (on != underline_) current_ = nullptr;
+    underline_ = on;
+}
+void QtSurface::SetFontStrikethru(bool on) {
+    if (on != strikethru_) current_ = nullptr;
+    strikethru_ = on;
+}
+
+namespace {
+// The one code point of a UTF-8 string, or 0 when it has more or none.
+char32_t SingleCodePoint(const std::string& s) {
+    if (s.empty()) return 0;
+    const unsigned char b = static_cast<unsigned char>(s[0]);
+    const std::size_t n = b < 0x80 ? 1 : (b >> 5) == 6 ? 2 : (b >> 4) == 14 ? 3 : (b >> 3) == 30 ? 4 : 0;
+    if (n == 0 || s.size() != n) return 0;
+    char32_t c = n == 1 ? b : n == 2 ? (b & 0x1F) : n == 3 ? (b & 0x0F) : (b & 0x07);
+    for (std::size_t i = 1; i < n; ++i) c = (c << 6) | (static_cast<unsigned char>(s[i]) & 0x3F);
+    return c;
+}
+} // namespace
+
+double QtSurface::TextWidth(const std::string& text) {
+    FontEntry& f = Current();
+    const char32_t c = SingleCodePoint(text);
+    if (c != 0) {
+        auto it = f.widths.constFind(c);
+        if (it != f.widths.constEnd()) return *it;
+        const double w = f.metrics.horizontalAdvance(ToQString(text));
+        f.widths.insert(c, w);
+        return w;
+    }
+    return f.metrics.horizontalAdvance(ToQString(text));
+}
+
+double QtSurface::TextHeight(const std::string&) { return Current().height; }
+
+double QtSurface::Ascent() { return Current().ascent / twipsPerPixelY_; }
+
+void QtSurface::PrintText(const std::string& text) {
+    FontEntry& f = Current();
+    const QString key = ToQString(text);
+    auto found = f.runs.constFind(key);
+    if (found == f.runs.constEnd()) {
+        // Laid out on the device with the drawing font: positions come out in twips, the
+        // painter's unit, with the baseline at the font's ascent below the top.
+        QTextLayout layout(key, f.drawFont, device_);
+        QTextOption option;
+        option.setWrapMode(QTextOption::NoWrap);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        if (line.isValid()) line.setPosition(QPointF(0, 0));
+        layout.endLayout();
+        QList<QGlyphRun> runs = layout.glyphRuns();
+        // The measured ascent decides where the baseline lies, as in the measure pass.
+        const double shift = f.ascent - (line.isValid() ? line.ascent() : f.ascent);
+        for (QGlyphRun& run : runs) {
+            QList<QPointF> positions = run.positions();
+            for (QPointF& p : positions) p.ry() += shift;
+            run.setPositions(positions);
+        }
+        found = f.runs.insert(key, runs);
+    }
+    if (penColor_ != foreColor_) {
+        painter_.setPen(ToQColor(foreColor_));
+        penColor_ = foreColor_;
+    }
+    for (const QGlyphRun& run : *found) painter_.drawGlyphRun(QPointF(x_, y_), run);
+    const double width = TextWidth(text);
+    if (underline_ || strikethru_) {
+        const double thickness = std::max(f.metrics.lineWidth(), 1.0);
+        const QColor color = ToQColor(foreColor_);
+        if (underline_) painter_.fillRect(QRectF(x_, y_ + f.ascent + f.metrics.underlinePos(), width, thickness), color);
+        if (strikethru_) painter_.fillRect(QRectF(x_, y_ + f.ascent - f.metrics.strikeOutPos(), width, thickness), color);
+    }
+    x_ += width;
+}
+
+void QtSurface::Line(double x1, double y1, double x2, double y2, std::optional<std::uint32_t> color) {
+    QPen pen(ToQColor(color.value_or(foreColor_)));
+    pen.setWidthF(drawWidth_ * twipsPerPixelX_);
+    pen.setCapStyle(drawWidth_ > 1 ? Qt::RoundCap : Qt::SquareCap);
+    painter_.setPen(pen);
+    penColor_ = 0xFFFFFFFF;
+    if (screenPicture_ && (x1 == x2 || y1 == y2)) {
+        // A bar or a stem across pixel rows looks grey and blurred: put it on whole pixels.
+        auto snap = [&](double v, double tpp) {
+            const double px = v / tpp;
+            return (drawWidth_ % 2 == 1 ? std::floor(px) + 0.5 : std::round(px)) * tpp;
+        };
+        if (y1 == y2) y1 = y2 = snap(y1, twipsPerPixelY_);
+        else x1 = x2 = snap(x1, twipsPerPixelX_);
+    }
+    painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+}
+
+void QtSurface::FilledBox(double x, double y, double dx, double dy, std::optional<std::uint32_t> color) {
+    painter_.fillRect(QRectF(x, y, dx, dy).normalized(), ToQColor(color.value_or(foreColor_)));
+}
+
+void QtSurface::Circle(double cx, double cy, double radius) {
+    QPen pen(ToQColor(foreColor_));
+    pen.setWidthF(drawWidth_ * twipsPerPixelX_);
+    painter_.setPen(pen);
+    penColor_ = 0xFFFFFFFF;
+    painter_.setBrush(fillStyle_ == 0 ? QBrush(ToQColor(foreColor_)) : QBrush(Qt::NoBrush));
+    painter_.drawEllipse(QPointF(cx, cy), radius, radius);
+    painter_.setBrush(Qt::NoBrush);
+}
+
+bool QtSurface::PaintPicture(const std::string& pictureFile, double x, double y, double width, double height) {
+    QImageReader reader(ToQString(pictureFile));
+    const QImage picture = reader.read();
+    if (picture.isNull()) return false;
+    painter_.save();
+    // A negative width or height mirrors the picture, as the rectangle runs backwards.
+    painter_.translate(x, y);
+    painter_.scale(width < 0 ? -1 : 1, height < 0 ? -1 : 1);
+    painter_.drawImage(QRectF(0, 0, std::fabs(width), std::fabs(height)), picture);
+    painter_.restore();
+    return true;
+}
+
+bool ReadPictureSize(const std::string& file, double& width, double& height) {
+    QImageReader reader(ToQString(file));
+    const QImage picture = reader.read();
+    if (picture.isNull()) return false;
+    width = picture.width();
+    height = picture.height();
+    return true;
+}
+
+void UseQtPictures(TypesetterState& state) {
+    state.LoadPicture = ReadPictureSize;
+    const QString program = QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QDir::currentPath();
+    state.PictureFolder.clear();
+    for (const QString& candidate : {program + "/img", program + "/data/img", program + "/../data/img",
+                                     program + "/../../data/img"}) {
+        if (QDir(candidate).exists()) {
+            state.PictureFolder = QDir(candidate).absolutePath().toStdString();
+            break;
+        }
+    }
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    state.TempPictureFolder = data.isEmpty() ? std::string() : (data + "/temp").toStdString();
+}

@@ -8,6 +8,8 @@ using CliArguments = std::vector<std::string>;
 
 int RunCatalogueCommand(const CliArguments& args);
 int RunGenerateCommand(const CliArguments& args);
+// markup TEXT -o OUT.png [--pdf OUT.pdf] [--size POINTS] [--zoom FACTOR]
+int RunMarkupCommand(const CliArguments& args);
 
 // Exit status for a call whose words are wrong.
 inline constexpr int kUsageError = 2;

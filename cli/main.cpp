@@ -10,7 +10,9 @@ void PrintUsage(std::ostream& out) {
            "\n"
            "Commands:\n"
            "  catalogue               list every generator by topic\n"
-           "  generate MODULE CODE    print the statement and solution markup of one problem code\n";
+           "  generate MODULE CODE    print the statement and solution markup of one problem code\n"
+           "  markup TEXT -o OUT.png [--pdf OUT.pdf] [--size PT] [--zoom F]\n"
+           "                          lay one markup text out on an A4 page\n";
 }
 } // namespace
 
@@ -18,6 +20,7 @@ int main(int argc, char** argv) {
     const std::map<std::string, std::function<int(const CliArguments&)>> commands = {
         {"catalogue", RunCatalogueCommand},
         {"generate", RunGenerateCommand},
+        {"markup", RunMarkupCommand},
     };
     if (argc < 2) {
         PrintUsage(std::cerr);

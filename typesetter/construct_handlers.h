@@ -1,0 +1,15 @@
+#pragma once
+#include "typesetter/constructs.h"
+
+// Fractions and stacked forms.
+void FractionHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+void ArrowTextHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+void StackedPairHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+// Roots and powers.
+void RootHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+void PowerHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+// Delimiters and rows.
+void DelimiterHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+void RowsHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+// A construct that has no drawing here yet: cut out and measured as an empty box.
+void EmptyConstructHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);

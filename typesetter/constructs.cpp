@@ -1,0 +1,82 @@
+#include "typesetter/constructs.h"
+
+#include "typesetter/construct_handlers.h"
+#include "typesetter/markup.h"
+
+namespace {
+const std::vector<ConstructTag> kTags = [] {
+    std::vector<ConstructTag> tags = {
+        {U"#COC(", U"#COC)", EmptyConstructHandler, true},
+        {U"#ATX(", U"#ATX)", EmptyConstructHandler, true},
+        {U"#SPB(", U"#SPB)", EmptyConstructHandler, true},
+        {U"#SQR(", U"#SQR)", EmptyConstructHandler, false},
+        {U"#CUR(", U"#CUR)", EmptyConstructHandler, false},
+        {U"#RAD(", U"#RAD)", EmptyConstructHandler, false},
+        {U"#POT(", U"#POT)", EmptyConstructHandler, false},
+        {U"#EXP(", U"#EXP)", EmptyConstructHandler, false},
+        {U"#NES(", U"#NES)", EmptyConstructHandler, false},
+        {U"#RWS(", U"#RWS)", EmptyConstructHandler, true},
+        {U"#CEQ(", U"#CEQ)", EmptyConstructHandler, true},
+        {U"#INT(", U"#INT)", EmptyConstructHandler, false},
+        {U"#UDB(", U"#UDB)", EmptyConstructHandler, false},
+        {U"#IMG(", U"#IMG)", EmptyConstructHandler, false},
+        {U"#TST(", U"#TST)", EmptyConstructHandler, false},
+    };
+    for (const char32_t* name : {U"VEC", U"VED", U"SEG", U"UDL", U"SED", U"AND", U"ARC", U"TDX", U"TDU", U"TDD", U"REC"}) {
+        const std::u32string n = name;
+        tags.push_back({U"#" + n + U"(", U"#" + n + U")", EmptyConstructHandler, false});
+    }
+    for (char32_t kind : {U'V', U'L', U'I', U'D'}) {
+        for (char32_t digit = U'3'; digit <= U'9'; ++digit) {
+            const std::u32string n = std::u32string(U"A") + digit + kind;
+            tags.push_back({U"#" + n + U"(", U"#" + n + U")", EmptyConstructHandler, false});
+        }
+    }
+    tags.push_back({U"#BCV(", U"#BCV)", EmptyConstructHandler, false});
+    tags.push_back({U"#BCH(", U"#BCH)", EmptyConstructHandler, false});
+    return tags;
+}();
+} // namespace
+
+const std::vector<ConstructTag>& ConstructTags() { return kTags; }
+
+const ConstructTag* FindConstructTag(const std::u32string& text, std::size_t pos) {
+    if (pos + 5 > text.size()) return nullptr;
+    for (const auto& tag : kTags)
+        if (text.compare(pos, 5, tag.open) == 0) return &tag;
+    return nullptr;
+}
+
+void ErrorPieceHandler(TypesetterState& st, const std::u32string& piece, DrawingSurface& s, std::u32string&) {
+    const int myBox = st.BoxCounter;
+    if (st.DrawPass) {
+        st.BoxTable[myBox].drawX = s.CurrentX();
+        st.BoxTable[myBox].drawY = s.CurrentY();
+        ChildBox(st, myBox, 1);
+    }
+    const int child = InterpretPiece(st, myBox, 1, ErrorDisplayText(piece), s);
+    if (!st.DrawPass) {
+        LayoutBox box = st.BoxTable[child];
+        box.lead = 0;
+        box.width = st.BoxTable[child].lead + st.BoxTable[child].width;
+        box.source = piece;
+        st.BoxTable[myBox] = box;
+    }
+}
+
+void EmptyConstructHandler(TypesetterState& st, const std::u32string& piece, DrawingSurface& s, std::u32string&) {
+    const int myBox = st.BoxCounter;
+    LayoutBox& box = st.BoxTable[myBox];
+    if (st.DrawPass) {
+        box.drawX = s.CurrentX();
+        box.drawY = s.CurrentY();
+        return;
+    }
+    const double h = s.TextHeight("Hp");
+    box.lead = 0;
+    box.width = 0;
+    box.over = 0;
+    box.axis = 0.574 * h;
+    box.bottom = h;
+    box.source = piece;
+}

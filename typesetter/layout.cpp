@@ -1,0 +1,183 @@
+#include "typesetter/layout.h"
+
+#include <cmath>
+#include <vector>
+
+#include "typesetter/markup.h"
+#include "typesetter/text_util.h"
+
+namespace {
+const std::string kReferenceText = "Nuria es Magn\u00EDfico";
+
+std::u32string RemoveCrLf(const std::u32string& text) {
+    std::u32string out;
+    out.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == U'\r' && i + 1 < text.size() && text[i + 1] == U'\n') {
+            ++i;
+            continue;
+        }
+        out.push_back(text[i]);
+    }
+    return out;
+}
+
+// Splits at every "&LF"; the last line is what is left, possibly empty. Lines beyond the
+// table's size are left out rather than written past it.
+std::vector<std::u32string> SplitLines(const std::u32string& text) {
+    std::vector<std::u32string> lines;
+    std::size_t pos = 0;
+    while (static_cast<int>(lines.size()) < kMaxLines) {
+        const std::size_t found = text.find(U"&LF", pos);
+        if (found == std::u32string::npos) {
+            lines.push_back(text.substr(pos));
+            break;
+        }
+        lines.push_back(text.substr(pos, found - pos));
+        pos = found + 3;
+    }
+    return lines;
+}
+
+int MarkNumber(const std::u32string& line) {
+    // Val of the text from the seventh character: digits after optional blanks and sign.
+    if (line.size() < 7) return 0;
+    const double v = LeadingNumber(line.substr(6));
+    if (!std::isfinite(v) || std::fabs(v) > 2.0e9) return 0;
+    return static_cast<int>(std::trunc(v));
+}
+
+struct SavedFont {
+    std::string name;
+    double size;
+    bool italic, bold, underline, strikethru;
+    std::uint32_t color;
+};
+
+SavedFont SaveFont(DrawingSurface& s) {
+    return {s.FontName(), s.FontSize(), s.FontItalic(), s.FontBold(), s.FontUnderline(), s.FontStrikethru(), s.ForeColor()};
+}
+
+void RestoreFont(DrawingSurface& s, const SavedFont& f) {
+    s.SetFontName(f.name);
+    s.SetFontSize(f.size);
+    s.SetFontItalic(f.italic);
+    s.SetFontBold(f.bold);
+    s.SetForeColor(f.color);
+    s.SetFontUnderline(f.underline);
+    s.SetFontStrikethru(f.strikethru);
+}
+} // namespace
+
+void LayoutText(TypesetterState& st, const std::string& utf8Text, double& baseSize, DrawingSurface& surface) {
+    const double zoom = st.ZoomScale;
+    if (!(baseSize > 0)) baseSize = 5 * zoom;
+
+    st.MarkCount = 0;
+    st.LineIndent = 0;
+    st.LineColor = 0;
+    const std::u32string text = RemoveCrLf(ToU32(utf8Text));
+    std::vector<std::u32string> lines = SplitLines(text);
+
+    surface.SetFontName("Times New Roman");
+    surface.SetFontItalic(false);
+    surface.SetFontBold(false);
+    surface.SetFontStrikethru(false);
+    surface.SetFontUnderline(false);
+    surface.SetForeColor(0);
+    surface.SetFontSize(12 * zoom);
+    const double refWidth = surface.TextWidth(kReferenceText);
+    surface.SetFontSize(baseSize);
+
+    if (&surface == st.ScreenSurface) {
+        st.PageWidth = (surface.Width() - 2) * surface.TwipsPerPixelX();
+        st.PageHeight = (surface.Height() - 2) * surface.TwipsPerPixelY();
+        st.MarginLeft = st.MarginRight = st.MarginTop = st.MarginBottom = kPageMargin * zoom;
+    } else if (st.PrinterInstalled) {
+        if (&surface == st.PrinterSurface) {
+            st.PageWidth = surface.Width();
+            st.PageHeight = surface.Height();
+        }
+        // The parts of the paper that the printer can't reach: fixed, never zoomed.
+        st.MarginLeft = kPageMargin - 348;
+        st.MarginRight = kPageMargin - 148;
+        st.MarginTop = kPageMargin - 287;
+        st.MarginBottom = kPageMargin - 286;
+    }
+
+    st.FlowResult = 0;
+    double lineY = 0;
+    double th = 0;
+    for (std::u32string& rawLine : lines) {
+        std::u32string line = ExpandLocaleCodes(st, rawLine);
+        if (line.compare(0, 5, U"#MARK") == 0) {
+            st.FlowResult = MarkNumber(line);
+            // Marks beyond the table are not taken: the caller's limit, kept safely.
+            if (st.MarkCount < kMaxMarks) {
+                st.MarkCount += 1;
+                st.MarkSelected[st.MarkCount - 1] = false;
+                st.MarkProblem[st.MarkCount - 1] = st.FlowResult;
+            }
+        }
+        const std::size_t indentAt = line.find(U"&LSAN=");
+        if (indentAt != std::u32string::npos) {
+            const std::size_t colon = line.find(U':', indentAt + 6);
+            const std::u32string value =
+                line.substr(indentAt + 6, colon == std::u32string::npos ? std::u32string::npos : colon - indentAt - 6);
+            line.erase(indentAt, colon == std::u32string::npos ? std::u32string::npos : colon + 1 - indentAt);
+            st.LineIndent = 0.98 * (LeadingNumber(value) / 25.4 * 1440) * surface.TextWidth(kReferenceText) / refWidth;
+        }
+        bool pageFull = false;
+        std::u32string head;
+        do {
+            st.BoxCounter = 1;
+            st.FractionDepth = 0;
+            st.ScriptDepth = 0;
+            st.BoxOverflow = false;
+            const SavedFont saved = SaveFont(surface);
+            th = surface.TextHeight("H");
+            st.DrawPass = false;
+            InterpretMarkup(st, line, surface, head);
+
+            st.BoxCounter = 1;
+            st.DrawPass = true;
+            st.FractionDepth = 0;
+            st.ScriptDepth = 0;
+            st.BoxOverflow = false;
+            RestoreFont(surface, saved);
+            const LayoutBox& box = st.BoxTable[1];
+            surface.SetCurrentX(box.lead + st.LineIndent + st.MarginLeft);
+            surface.SetCurrentY(box.over + lineY + st.MarginTop);
+            if (surface.CurrentY() >= st.PageHeight - st.MarginBottom - (box.bottom + box.over)) {
+                st.FlowResult = -st.FlowResult;
+                pageFull = true;
+                break;
+            }
+            std::u32string scratch;
+            if (head.empty()) {
+                InterpretMarkup(st, line, surface, scratch);
+            } else {
+                InterpretMarkup(st, head, surface, scratch);
+                line.erase(0, std::min(head.size(), line.size()));
+            }
+            st.DrawPass = false;
+            if (st.YieldToEvents) st.YieldToEvents();
+            lineY += st.BoxTable[1].over + st.BoxTable[1].bottom + th / 5;
+        } while (!head.empty());
+        if (pageFull) break;
+    }
+    st.DrawPass = false;
+
+    if (st.MarkCount > 0) st.MarkBottom[st.MarkCount - 1] = lineY + st.BoxTable[1].bottom + th;
+
+    if (&surface == st.ScreenSurface && st.ShowMarginGuides) {
+        surface.SetFillStyle(1);
+        const std::uint32_t guide = Rgb(240, 240, 240);
+        const double w = surface.Width() * surface.TwipsPerPixelX();
+        const double h = surface.Height() * surface.TwipsPerPixelY();
+        surface.Line(st.MarginLeft, 0, st.MarginLeft, h, guide);
+        surface.Line(0, st.MarginTop, w, st.MarginTop, guide);
+        surface.Line(0, h - st.MarginTop, w, h - st.MarginTop, guide);
+        surface.Line(w - st.MarginRight, 0, w - st.MarginRight, h, guide);
+    }
+}

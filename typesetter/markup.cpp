@@ -1,0 +1,544 @@
+#include "typesetter/markup.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "typesetter/constructs.h"
+#include "typesetter/text_util.h"
+
+namespace {
+const std::u32string kErrorHead = U"&FC=Rojo:*ERROR*&FC=Negro:";
+
+bool At(const std::u32string& text, std::size_t pos, const std::u32string& what) {
+    return text.compare(pos, what.size(), what) == 0 && pos + what.size() <= text.size();
+}
+
+bool IsUprightCharacter(char32_t c) {
+    return (c >= U'0' && c <= U'9') || c == U'.' || c == U',' || c == U':' || c == U';' || c == U'(' || c == U')' ||
+           c == U'[' || c == U']' || c == U'|' || c == U'{' || c == U'}';
+}
+
+constexpr char32_t kEnDash = U'\u2013';
+
+// One call of the interpreter: the frame of the routine.
+class Interpreter {
+public:
+    Interpreter(TypesetterState& st, const std::u32string& text, DrawingSurface& s, std::u32string& head)
+        : st_(st), text_(text), s_(s), head_(head) {}
+
+    void Run();
+
+private:
+    void ReadMetrics() {
+        H_ = s_.TextHeight("Hp");
+        ascent_ = AscentTwips(st_, s_);
+        axis_ = 0.574 * H_ + (entryAscent_ - ascent_);
+    }
+    // Measure pass: the width counted from firstCounted, the pen included.
+    double UsedWidth() const {
+        double used = pen_;
+        for (int i = firstCounted_; i <= segmentCount_; ++i) used += segments_[i].lead + segments_[i].width;
+        return used;
+    }
+    void CloseBox();
+    bool ValueCode(std::size_t& p, std::u32string& value);
+    void PlainCharacter(char32_t c);
+    void Script(char32_t c, bool subscript);
+    void Entity(int index);
+    void PowerOfTen(std::size_t& p);
+    void DrawnSign(char32_t kind);
+    // Returns false when the string must stop (segment table full).
+    bool Construct(const ConstructTag& tag, std::size_t& p);
+
+    TypesetterState& st_;
+    const std::u32string& text_;
+    DrawingSurface& s_;
+    std::u32string& head_;
+
+    int ownBox_ = 0;
+    double entryX_ = 0, entryY_ = 0;
+    std::string entryFontName_;
+    double fontSize_ = 0;
+    double H_ = 0, axis_ = 0;
+    double entryAscent_ = 0, ascent_ = 0;
+    int sizeClass_ = 1;
+    double pen_ = 0;
+    std::array<LayoutBox, kMaxSegments + 1> segments_;
+    int segmentCount_ = 0;
+    int firstCounted_ = 1;
+    std::size_t breakAt_ = 0;
+};
+
+void Interpreter::Run() {
+    head_.clear();
+    ownBox_ = st_.BoxCounter;
+    if (st_.DrawPass) {
+        entryX_ = s_.CurrentX();
+        entryY_ = s_.CurrentY();
+    }
+    entryFontName_ = s_.FontName();
+    fontSize_ = s_.FontSize();
+    entryAscent_ = AscentTwips(st_, s_);
+    ReadMetrics();
+    sizeClass_ = H_ < 120 ? 1 : (H_ < 300 ? 2 : 3);
+    segments_[0].over = 0;
+    segments_[0].axis = axis_;
+    segments_[0].bottom = H_;
+
+    const std::size_t len = text_.size();
+    std::size_t p = 0; // 0-based position of the next character
+    while (p < len) {
+        if (st_.BoxOverflow) break;
+        bool breakPoint = false;
+        const char32_t c = text_[p];
+        if (c == U'#') {
+            if (At(text_, p, U"#MARK")) {
+                if (st_.DrawPass) {
+                    const int n = st_.MarkCount;
+                    if (n >= 1 && n <= kMaxMarks) {
+                        const double top = entryY_ - st_.BoxTable[ownBox_].over;
+                        st_.MarkTop[n - 1] = top;
+                        if (n > 1) st_.MarkBottom[n - 2] = top - H_ / 8;
+                    }
+                }
+                p += 9;
+            } else if (At(text_, p, U"##")) {
+                PlainCharacter(U'#');
+                p += 2;
+            } else if (const ConstructTag* tag = FindConstructTag(text_, p)) {
+                if (!Construct(*tag, p)) break;
+            } else {
+                p += 1; // an unknown tag loses its "#" only
+            }
+        } else if (c == U'&') {
+            std::u32string value;
+            if (At(text_, p, U"&+I") || At(text_, p, U"&-I")) {
+                s_.SetFontItalic(text_[p + 1] == U'+');
+                p += 3;
+            } else if (At(text_, p, U"&+B") || At(text_, p, U"&-B")) {
+                s_.SetFontBold(text_[p + 1] == U'+');
+                p += 3;
+            } else if (At(text_, p, U"&+U") || At(text_, p, U"&-U")) {
+                s_.SetFontUnderline(text_[p + 1] == U'+');
+                p += 3;
+            } else if (At(text_, p, U"&+S") || At(text_, p, U"&-S")) {
+                s_.SetFontStrikethru(text_[p + 1] == U'+');
+                p += 3;
+            } else if (At(text_, p, U"&FS")) {
+                if (!ValueCode(p, value)) return;
+                s_.SetFontSize(LeadingNumber(value) * st_.ZoomScale);
+                fontSize_ = s_.FontSize();
+                ReadMetrics();
+                s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
+                // Plain text of the new size, with its baseline kept, in the frame of the
+                // string's nominal top.
+                const double shiftY = entryAscent_ - ascent_;
+                segments_[0].over = std::max(segments_[0].over + segments_[0].axis, axis_ - shiftY) - axis_;
+                segments_[0].bottom = std::max(segments_[0].bottom - segments_[0].axis, H_ + shiftY - axis_) + axis_;
+                segments_[0].axis = axis_;
+            } else if (At(text_, p, U"&FN")) {
+                if (!ValueCode(p, value)) return;
+                s_.SetFontName("Courier New");
+                s_.SetFontName(ToUtf8(value));
+                ReadMetrics();
+                s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
+                const double shiftY = entryAscent_ - ascent_;
+                segments_[0].over = std::max(segments_[0].over + segments_[0].axis, axis_ - shiftY) - axis_;
+                segments_[0].bottom = std::max(segments_[0].bottom - segments_[0].axis, H_ + shiftY - axis_) + axis_;
+                segments_[0].axis = axis_;
+            } else if (At(text_, p, U"&FC")) {
+                if (!ValueCode(p, value)) return;
+                if (st_.DrawPass) s_.SetForeColor(ParseColor(value));
+            } else if (At(text_, p, U"&BC")) {
+                if (!ValueCode(p, value)) return;
+                if (st_.DrawPass) st_.FillColor = ParseColor(value);
+            } else if (At(text_, p, U"&LC")) {
+                if (!ValueCode(p, value)) return;
+                st_.LineColor = ParseColor(value);
+            } else if (At(text_, p, U"&FF")) {
+                if (!ValueCode(p, value)) return;
+                if (st_.DrawPass) {
+                    std::u32string kind;
+                    double w = 0, h = 0;
+                    ParseFillList(value, kind, w, h);
+                    if (kind == U"REC") {
+                        const double x = s_.CurrentX(), y = s_.CurrentY();
+                        if (w == 0) {
+                            s_.SetCurrentX(0);
+                            w = s_.Width() * s_.TwipsPerPixelX() / 1440 * 25.4 / st_.ZoomScale;
+                        }
+                        if (h == 0) {
+                            s_.SetCurrentY(0);
+                            h = s_.Height() * s_.TwipsPerPixelY() / 1440 * 25.4 / st_.ZoomScale;
+                        }
+                        s_.FilledBox(s_.CurrentX(), s_.CurrentY(), w / 25.4 * 1440 * st_.ZoomScale,
+                                     h / 25.4 * 1440 * st_.ZoomScale, st_.FillColor);
+                        s_.SetCurrentX(x);
+                        s_.SetCurrentY(y);
+                    }
+                }
+            } else if (At(text_, p, U"&SP")) {
+                if (!ValueCode(p, value)) return;
+                const double x =
+                    LeadingNumber(value) / 100 * (st_.PageWidth - st_.MarginLeft - st_.MarginRight) + entryX_;
+                if (st_.DrawPass) s_.SetCurrentX(x);
+                else pen_ = x;
+                firstCounted_ = segmentCount_ + 1;
+            } else {
+                int entity = 0;
+                for (int i = 1; i <= kSymbolCount; ++i) {
+                    if (At(text_, p, st_.SymbolName[i])) {
+                        entity = i;
+                        break;
+                    }
+                }
+                if (entity != 0) {
+                    Entity(entity);
+                    p += st_.SymbolName[entity].size();
+                } else if (At(text_, p, U"& ")) {
+                    if (st_.DrawPass) s_.PrintText(" ");
+                    else pen_ += s_.TextWidth(" ");
+                    p += 2;
+                } else if (At(text_, p, U"&Q") || At(text_, p, U"&=") || At(text_, p, U"&#")) {
+                    DrawnSign(text_[p + 1]);
+                    p += 2;
+                } else if (At(text_, p, U"&_")) {
+                    if (st_.DrawPass) {
+                        if (p + 2 == len) s_.PrintText("-");
+                    } else {
+                        pen_ += s_.TextWidth("-");
+                    }
+                    p += 2;
+                    breakPoint = true;
+                } else if (At(text_, p, U"&&")) {
+                    PlainCharacter(U'&');
+                    p += 2;
+                } else if (At(text_, p, U"&E")) {
+                    PowerOfTen(p);
+                } else {
+                    p += 1; // an unknown code loses its "&" only
+                }
+            }
+        } else if (c == U'_' || c == U'^') {
+            if (p + 1 < len && text_[p + 1] == c) {
+                PlainCharacter(c);
+            } else if (p + 1 < len) {
+                Script(text_[p + 1], c == U'_');
+            }
+            p += 2;
+        } else {
+            PlainCharacter(c);
+            breakPoint = (c == U' ');
+            p += 1;
+        }
+
+        if (!st_.DrawPass) {
+            const double used = UsedWidth();
+            if (used + st_.LineIndent + st_.MarginLeft + st_.MarginRight > st_.PageWidth) {
+                head_ = text_.substr(0, breakAt_ != 0 ? breakAt_ : std::min(p, len));
+                break;
+            }
+            if (breakPoint) breakAt_ = p; // the token's last position, 1-based
+        }
+    }
+    if (!st_.DrawPass) CloseBox();
+}
+
+void Interpreter::CloseBox() {
+    double top = segments_[0].over + segments_[0].axis;
+    double low = segments_[0].bottom - segments_[0].axis;
+    for (int i = 1; i <= segmentCount_; ++i) {
+        top = std::max(top, segments_[i].over + segments_[i].axis);
+        low = std::max(low, segments_[i].bottom - segments_[i].axis);
+    }
+    LayoutBox& own = st_.BoxTable[ownBox_];
+    own.over = top - axis_;
+    own.bottom = low + axis_;
+    own.width = UsedWidth();
+    own.lead = 0;
+    own.axis = axis_;
+    own.source = text_;
+}
+
+// "&XX=value:": false when no ":" follows, which ends the whole call.
+bool Interpreter::ValueCode(std::size_t& p, std::u32string& value) {
+    const std::size_t start = p + 4;
+    if (start > text_.size()) return false;
+    const std::size_t colon = text_.find(U':', start);
+    if (colon == std::u32string::npos) return false;
+    value = text_.substr(start, colon - start);
+    p = colon + 1;
+    return true;
+}
+
+void Interpreter::PlainCharacter(char32_t c) {
+    if (c == U'-') c = kEnDash;
+    const bool italic = s_.FontItalic();
+    double shift = 0;
+    double bearing = 0;
+    int row = -1;
+    if (c == U'+') row = 0;
+    else if (c == kEnDash) row = 1;
+    else if (c == U'=') row = 2;
+    if (row >= 0) {
+        shift = st_.OperatorShift[row][sizeClass_ - 1] * H_;
+        bearing = 0.04 * H_;
+        s_.SetFontItalic(false);
+    } else if (IsUprightCharacter(c)) {
+        s_.SetFontItalic(false);
+    }
+    if (bearing < 1.0) bearing = 1.0;
+    const std::string glyph = ToUtf8(c);
+    if (st_.DrawPass) {
+        const double y = s_.CurrentY();
+        s_.SetCurrentY(y + shift);
+        s_.SetCurrentX(s_.CurrentX() + bearing);
+        s_.PrintText(glyph);
+        s_.SetCurrentX(s_.CurrentX() + bearing);
+        s_.SetCurrentY(y);
+        s_.SetFontItalic(italic);
+    } else {
+        // The measure pass keeps italic off after a digit or operator: its widths differ a
+        // little from the drawing's, which is accepted.
+        pen_ += s_.TextWidth(glyph) + 2 * bearing;
+    }
+}
+
+void Interpreter::Script(char32_t c, bool subscript) {
+    s_.SetFontSize(fontSize_ * 8 / 12);
+    const bool italic = s_.FontItalic();
+    const std::string glyph = ToUtf8(c);
+    if (st_.DrawPass) {
+        const double y = s_.CurrentY();
+        if (subscript) s_.SetCurrentY(y + s_.TextHeight("9") / 1.4);
+        if (c >= U'0' && c <= U'9') s_.SetFontItalic(false);
+        s_.PrintText(glyph);
+        s_.SetCurrentY(y);
+    } else {
+        pen_ += s_.TextWidth(glyph);
+    }
+    s_.SetFontItalic(italic);
+    s_.SetFontSize(fontSize_);
+    if (subscript) {
+        const double shiftY = segments_[0].axis - 0.574 * H_;
+        if (segments_[0].bottom < 1.1 * H_ + shiftY) segments_[0].bottom = 1.1 * H_ + shiftY;
+    }
+}
+
+void Interpreter::Entity(int index) {
+    const std::string font = index <= 74 ? "Symbol" : "MT Extra";
+    s_.SetFontName(font);
+    if (st_.DrawPass) {
+        const double symbolAscent = AscentTwips(st_, s_);
+        const double y = s_.CurrentY();
+        s_.SetCurrentY(y + ascent_ - symbolAscent);
+        s_.PrintText(st_.SymbolGlyph[index]);
+        s_.SetCurrentY(y);
+    } else {
+        pen_ += s_.TextWidth(st_.SymbolGlyph[index]);
+    }
+    // Out of a symbol font by way of a text font, back to the font at entry.
+    s_.SetFontName("Courier New");
+    s_.SetFontName(entryFontName_);
+}
+
+void Interpreter::PowerOfTen(std::size_t& p) {
+    std::size_t q = p + 2;
+    std::u32string digits;
+    if (q < text_.size() && (text_[q] == U'+' || text_[q] == U'-')) digits.push_back(text_[q++]);
+    while (q < text_.size() && text_[q] >= U'0' && text_[q] <= U'9') digits.push_back(text_[q++]);
+    p = q;
+    digits = TrimBlanks(digits);
+    if (!digits.empty() && digits[0] == U'+') digits.erase(0, 1);
+    else if (!digits.empty() && digits[0] == U'-') digits[0] = kEnDash;
+    const bool italic = s_.FontItalic();
+    s_.SetFontItalic(false);
+    const std::string ten = ToUtf8(st_.PowerOfTenText);
+    const std::string exponent = ToUtf8(digits);
+    if (st_.DrawPass) {
+        s_.PrintText(ten);
+        s_.SetFontSize(fontSize_ * 8 / 12);
+        s_.PrintText(exponent);
+    } else {
+        pen_ += s_.TextWidth(ten);
+        s_.SetFontSize(fontSize_ * 8 / 12);
+        pen_ += s_.TextWidth(exponent);
+    }
+    s_.SetFontSize(fontSize_);
+    s_.SetFontItalic(italic);
+}
+
+void Interpreter::DrawnSign(char32_t kind) {
+    SetStrokeWidth(st_, s_, 0.05 * H_);
+    const double advance = s_.TextWidth(kind == U'Q' ? "    " : "   ");
+    if (!st_.DrawPass) {
+        pen_ += advance;
+        return;
+    }
+    const double x = s_.CurrentX(), y = s_.CurrentY();
+    const double z = st_.ZoomScale;
+    if (kind == U'#') {
+        for (double d : {0.3, 0.48, 0.66}) s_.LineBy(x + 20 * z, y + d * H_, 130 * z, 0);
+    } else if (kind == U'=') {
+        for (double d : {0.351, 0.588}) s_.LineBy(x + 20 * z, y + d * H_, 130 * z, 0);
+    } else {
+        const double y1 = y + H_ / 2.5;
+        s_.LineBy(x, y1, 240 * z, 0);
+        s_.LineBy(x + 240 * z, y1, -60 * z, -50 * z);
+        const double y2 = y + H_ / 1.7;
+        s_.LineBy(x, y2, 240 * z, 0);
+        s_.LineBy(x, y2, 60 * z, 50 * z);
+    }
+    s_.SetCurrentX(x + advance);
+    s_.SetCurrentY(y);
+}
+
+bool Interpreter::Construct(const ConstructTag& tag, std::size_t& p) {
+    const std::u32string piece = ExtractBalanced(text_.substr(p), tag.open, tag.close);
+    if (segmentCount_ >= kMaxSegments || st_.BoxCounter >= kMaxBoxes) {
+        // Fails safe: the tables hold no more; the rest of this string is left out.
+        if (st_.BoxCounter >= kMaxBoxes) st_.BoxOverflow = true;
+        return false;
+    }
+    st_.BoxCounter += 1;
+    const int myBox = st_.BoxCounter;
+    segmentCount_ += 1;
+    const ConstructHandler handler = IsBalanceError(piece) ? ErrorPieceHandler : tag.handler;
+    if (st_.DrawPass) {
+        const double x = s_.CurrentX(), y = s_.CurrentY();
+        s_.SetCurrentX(x + st_.BoxTable[myBox].lead);
+        if (tag.axisAligned) s_.SetCurrentY(entryY_ + axis_ - st_.BoxTable[myBox].axis);
+        handler(st_, piece, s_, head_);
+        s_.SetCurrentX(x + st_.BoxTable[myBox].lead + st_.BoxTable[myBox].width);
+        s_.SetCurrentY(y);
+    } else {
+        // Only #NES hands the caller's head down; the others get a scratch string.
+        handler(st_, piece, s_, head_);
+        segments_[segmentCount_] = st_.BoxTable[myBox];
+    }
+    s_.SetFontName(entryFontName_);
+    s_.SetFontSize(fontSize_);
+    p += piece.size();
+    return true;
+}
+} // namespace
+
+void InterpretMarkup(TypesetterState& state, const std::u32string& text, DrawingSurface& surface,
+                     std::u32string& fittedHead) {
+    Interpreter(state, text, surface, fittedHead).Run();
+}
+
+std::u32string BalanceErrorText(const std::u32string& openTag) { return kErrorHead + openTag; }
+
+bool IsBalanceError(const std::u32string& piece) { return piece.compare(0, kErrorHead.size(), kErrorHead) == 0; }
+
+std::u32string ErrorDisplayText(const std::u32string& errorText) {
+    std::u32string tag = errorText.substr(std::min(errorText.size(), kErrorHead.size()));
+    std::u32string shown;
+    for (char32_t c : tag) {
+        if (c == U'#') shown += U"##";
+        else if (c == U'&') shown += U"&&";
+        else if (c == U'_' || c == U'^') { shown.push_back(c); shown.push_back(c); }
+        else shown.push_back(c);
+    }
+    return kErrorHead + shown;
+}
+
+std::u32string ExtractBalanced(const std::u32string& text, const std::u32string& openTag, const std::u32string& closeTag) {
+    const std::size_t first = text.find(openTag);
+    if (first == std::u32string::npos || text.find(closeTag) == std::u32string::npos) return BalanceErrorText(openTag);
+    int depth = 1;
+    std::size_t pos = first + openTag.size();
+    while (true) {
+        const std::size_t close = text.find(closeTag, pos);
+        if (close == std::u32string::npos) return BalanceErrorText(openTag);
+        const std::size_t open = text.find(openTag, pos);
+        if (open != std::u32string::npos && open < close) {
+            depth += 1;
+            pos = open + openTag.size();
+            continue;
+        }
+        depth -= 1;
+        if (depth == 0) return text.substr(first, close + closeTag.size() - first);
+        pos = close + closeTag.size();
+    }
+}
+
+void ParseFillList(const std::u32string& text, std::u32string& kind, double& width, double& height) {
+    const std::size_t c1 = text.find(U',');
+    kind = TrimBlanks(text.substr(0, c1));
+    width = 0;
+    height = 0;
+    if (c1 == std::u32string::npos) return;
+    const std::size_t c2 = text.find(U',', c1 + 1);
+    width = LeadingNumber(text.substr(c1 + 1, c2 == std::u32string::npos ? std::u32string::npos : c2 - c1 - 1));
+    if (c2 != std::u32string::npos) height = LeadingNumber(text.substr(c2 + 1));
+}
+
+std::u32string ExpandLocaleCodes(const TypesetterState& state, const std::u32string& line) {
+    const std::pair<std::u32string, const std::u32string*> codes[] = {
+        {U"&.", &state.DecimalPointText},   {U"&,", &state.ListSeparatorText},  {U"&(", &state.OpenIntervalText},
+        {U"&)", &state.CloseIntervalText},  {U"&FA", &state.FunctionLetterText}, {U"&DT", &state.DeviationText},
+    };
+    std::u32string out = line;
+    for (const auto& [code, replacement] : codes) {
+        std::u32string next;
+        std::size_t pos = 0;
+        while (true) {
+            const std::size_t found = out.find(code, pos);
+            if (found == std::u32string::npos) {
+                next.append(out, pos, std::u32string::npos);
+                break;
+            }
+            next.append(out, pos, found - pos);
+            next += *replacement;
+            pos = found + code.size();
+        }
+        out = std::move(next);
+    }
+    return out;
+}
+
+double AscentTwips(const TypesetterState& state, DrawingSurface& surface) {
+    const DrawingSurface* screen = state.ScreenSurface;
+    const double tpp = (&surface != state.PrinterSurface && screen != nullptr) ? screen->TwipsPerPixelY()
+                                                                                 : surface.TwipsPerPixelY();
+    return surface.Ascent() * tpp;
+}
+
+double StrokeTwipsPerPixel(const TypesetterState& state, const DrawingSurface& surface) {
+    if (&surface == state.PrinterSurface || state.ScreenSurface == nullptr) return surface.TwipsPerPixelX();
+    return state.ScreenSurface->TwipsPerPixelX();
+}
+
+void SetStrokeWidth(const TypesetterState& state, DrawingSurface& surface, double t) {
+    const double px = t / StrokeTwipsPerPixel(state, surface);
+    surface.SetDrawWidth(px < 1 || !std::isfinite(px) ? 1 : static_cast<int>(std::min(px, 10000.0)));
+}
+
+int InterpretPiece(TypesetterState& state, int parentBox, int place, const std::u32string& text,
+                   DrawingSurface& surface, std::u32string& fittedHead) {
+    if (state.BoxCounter >= kMaxBoxes || state.BoxOverflow) {
+        state.BoxOverflow = true;
+        if (!state.DrawPass && parentBox >= 0 && parentBox <= kMaxBoxes && place >= 1 && place <= kMaxChildren)
+            state.ChildTable[parentBox][place] = 0;
+        return 0;
+    }
+    state.BoxCounter += 1;
+    const int box = state.BoxCounter;
+    if (!state.DrawPass && place >= 1 && place <= kMaxChildren) state.ChildTable[parentBox][place] = box;
+    InterpretMarkup(state, text, surface, fittedHead);
+    return box;
+}
+
+int InterpretPiece(TypesetterState& state, int parentBox, int place, const std::u32string& text,
+                   DrawingSurface& surface) {
+    std::u32string scratch;
+    return InterpretPiece(state, parentBox, place, text, surface, scratch);
+}
+
+int ChildBox(const TypesetterState& state, int parentBox, int place) {
+    if (parentBox < 0 || parentBox > kMaxBoxes || place < 1 || place > kMaxChildren) return 0;
+    const int box = state.ChildTable[parentBox][place];
+    return (box >= 0 && box <= kMaxBoxes) ? box : 0;
+}

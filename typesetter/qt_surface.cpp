@@ -1,0 +1,174 @@
+#include "typesetter/qt_surface.h"
+
+#include <QImageReader>
+#include <QPagedPaintDevice>
+#include <QPen>
+#include <cmath>
+
+namespace {
+// Dots per metre of a 1440 dpi device: font metrics measured on it are in twips.
+constexpr int kTwipDotsPerMeter = 56693;
+
+QString ToQString(const std::string& s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+} // namespace
+
+QStringList QtSurface::FamiliesFor(const std::string& fontName) {
+    // The fonts that the markup names, and their metric twins on this system. The symbol
+    // fonts' codes are printed as Unicode characters, which DejaVu has.
+    if (fontName == "Times New Roman") return {"Liberation Serif", "DejaVu Serif"};
+    if (fontName == "Arial") return {"Liberation Sans", "DejaVu Sans"};
+    if (fontName == "Courier New") return {"Liberation Mono", "DejaVu Sans Mono"};
+    if (fontName == "Symbol" || fontName == "MT Extra") return {"DejaVu Serif", "DejaVu Sans"};
+    return {ToQString(fontName), "Liberation Serif", "DejaVu Sans"};
+}
+
+QColor QtSurface::ToQColor(std::uint32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
+
+QtSurface::QtSurface(QImage& image) : reference_(1, 1, QImage::Format_ARGB32) {
+    width_ = image.width();
+    height_ = image.height();
+    twipsPerPixelX_ = twipsPerPixelY_ = 15;
+    Begin(image);
+}
+
+QtSurface::QtSurface(QPagedPaintDevice& device) : reference_(1, 1, QImage::Format_ARGB32) {
+    twipsPerPixelX_ = 1440.0 / device.logicalDpiX();
+    twipsPerPixelY_ = 1440.0 / device.logicalDpiY();
+    width_ = device.width() * twipsPerPixelX_;
+    height_ = device.height() * twipsPerPixelY_;
+    Begin(device);
+}
+
+void QtSurface::Begin(QPaintDevice& device) {
+    reference_.setDotsPerMeterX(kTwipDotsPerMeter);
+    reference_.setDotsPerMeterY(kTwipDotsPerMeter);
+    deviceDpi_ = device.logicalDpiY();
+    painter_.begin(&device);
+    painter_.setRenderHint(QPainter::Antialiasing, true);
+    painter_.setRenderHint(QPainter::TextAntialiasing, true);
+    painter_.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    painter_.scale(1.0 / twipsPerPixelX_, 1.0 / twipsPerPixelY_);
+}
+
+QtSurface::~QtSurface() { End(); }
+
+void QtSurface::End() {
+    if (painter_.isActive()) painter_.end();
+}
+
+QtSurface::FontEntry& QtSurface::Current() {
+    if (current_) return *current_;
+    const FontKey key{fontName_, fontSize_, bold_, italic_, underline_, strikethru_};
+    auto found = fonts_.find(key);
+    if (found == fonts_.end()) {
+        QFont measure;
+        measure.setFamilies(FamiliesFor(fontName_));
+        measure.setPointSizeF(fontSize_ > 0.05 ? fontSize_ : 0.05);
+        measure.setBold(bold_);
+        measure.setItalic(italic_);
+        measure.setUnderline(underline_);
+        measure.setStrikeOut(strikethru_);
+        measure.setHintingPreference(QFont::PreferNoHinting);
+        measure.setKerning(false);
+        QFontMetricsF metrics(measure, &reference_);
+        QFont draw = measure;
+        // The painter's unit is the twip: a font of size points must come out 20·size
+        // units high on a device of deviceDpi_.
+        draw.setPointSizeF(measure.pointSizeF() * 1440.0 / deviceDpi_);
+        auto entry = std::unique_ptr<FontEntry>(
+            new FontEntry{draw, metrics, metrics.ascent(), metrics.height(), {}});
+        found = fonts_.emplace(key, std::move(entry)).first;
+    }
+    current_ = found->second.get();
+    return *current_;
+}
+
+void QtSurface::SetFontName(const std::string& name) {
+    if (name != fontName_) current_ = nullptr;
+    fontName_ = name;
+}
+void QtSurface::SetFontSize(double points) {
+    if (!(points > 0) || !std::isfinite(points)) points = 0.05;
+    if (points > 2000) points = 2000;
+    if (points != fontSize_) current_ = nullptr;
+    fontSize_ = points;
+}
+void QtSurface::SetFontBold(bool on) {
+    if (on != bold_) current_ = nullptr;
+    bold_ = on;
+}
+void QtSurface::SetFontItalic(bool on) {
+    if (on != italic_) current_ = nullptr;
+    italic_ = on;
+}
+void QtSurface::SetFontUnderline(bool on) {
+    if (on != underline_) current_ = nullptr;
+    underline_ = on;
+}
+void QtSurface::SetFontStrikethru(bool on) {
+    if (on != strikethru_) current_ = nullptr;
+    strikethru_ = on;
+}
+
+double QtSurface::TextWidth(const std::string& text) {
+    FontEntry& f = Current();
+    const QString s = ToQString(text);
+    if (s.size() == 1 || (s.size() == 2 && s[0].isHighSurrogate())) {
+        const char32_t c = s.size() == 1 ? s[0].unicode() : QChar::surrogateToUcs4(s[0], s[1]);
+        auto it = f.widths.constFind(c);
+        if (it != f.widths.constEnd()) return *it;
+        const double w = f.metrics.horizontalAdvance(s);
+        f.widths.insert(c, w);
+        return w;
+    }
+    return f.metrics.horizontalAdvance(s);
+}
+
+double QtSurface::TextHeight(const std::string&) { return Current().height; }
+
+double QtSurface::Ascent() { return Current().ascent / twipsPerPixelY_; }
+
+void QtSurface::PrintText(const std::string& text) {
+    FontEntry& f = Current();
+    if (painterFont_ != &f.drawFont) {
+        painter_.setFont(f.drawFont);
+        painterFont_ = &f.drawFont;
+    }
+    painter_.setPen(ToQColor(foreColor_));
+    painter_.drawText(QPointF(x_, y_ + f.ascent), ToQString(text));
+    x_ += TextWidth(text);
+}
+
+void QtSurface::Line(double x1, double y1, double x2, double y2, std::optional<std::uint32_t> color) {
+    QPen pen(ToQColor(color.value_or(foreColor_)));
+    pen.setWidthF(drawWidth_ * twipsPerPixelX_);
+    pen.setCapStyle(drawWidth_ > 1 ? Qt::RoundCap : Qt::SquareCap);
+    painter_.setPen(pen);
+    painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+}
+
+void QtSurface::FilledBox(double x, double y, double dx, double dy, std::optional<std::uint32_t> color) {
+    painter_.fillRect(QRectF(x, y, dx, dy).normalized(), ToQColor(color.value_or(foreColor_)));
+}
+
+void QtSurface::Circle(double cx, double cy, double radius) {
+    QPen pen(ToQColor(foreColor_));
+    pen.setWidthF(drawWidth_ * twipsPerPixelX_);
+    painter_.setPen(pen);
+    painter_.setBrush(fillStyle_ == 0 ? QBrush(ToQColor(foreColor_)) : QBrush(Qt::NoBrush));
+    painter_.drawEllipse(QPointF(cx, cy), radius, radius);
+    painter_.setBrush(Qt::NoBrush);
+}
+
+bool QtSurface::PaintPicture(const std::string& pictureFile, double x, double y, double width, double height) {
+    QImageReader reader(ToQString(pictureFile));
+    const QImage picture = reader.read();
+    if (picture.isNull()) return false;
+    painter_.save();
+    // A negative width or height mirrors the picture, as the rectangle runs backwards.
+    painter_.translate(x, y);
+    painter_.scale(width < 0 ? -1 : 1, height < 0 ? -1 : 1);
+    painter_.drawImage(QRectF(0, 0, std::fabs(width), std::fabs(height)), picture);
+    painter_.restore();
+    return true;
+}

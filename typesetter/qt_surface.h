@@ -1,0 +1,107 @@
+#pragma once
+#include <QColor>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QHash>
+#include <QImage>
+#include <QPainter>
+#include <map>
+#include <memory>
+#include <tuple>
+
+#include "typesetter/drawing_surface.h"
+
+class QPagedPaintDevice;
+
+// The one drawing surface of the program, over a QPainter on a QImage (the screen picture,
+// 15 twips per pixel), a QPrinter or a QPdfWriter. The painter works in twips. Text is
+// measured with unhinted design metrics at a fixed resolution, so that a text breaks at
+// the same places on the screen picture, on paper and in a PDF.
+class QtSurface : public DrawingSurface {
+public:
+    // The screen picture: Width and Height in pixels, TwipsPerPixel 15 (96 dpi).
+    explicit QtSurface(QImage& image);
+    // A printer or PDF page: Width and Height in twips, TwipsPerPixel from the resolution.
+    explicit QtSurface(QPagedPaintDevice& device);
+    ~QtSurface() override;
+
+    QPainter& Painter() { return painter_; }
+    // Ends the painter (before a QPdfWriter or QPrinter is destroyed).
+    void End();
+
+    std::string FontName() const override { return fontName_; }
+    void SetFontName(const std::string& name) override;
+    double FontSize() const override { return fontSize_; }
+    void SetFontSize(double points) override;
+    bool FontBold() const override { return bold_; }
+    void SetFontBold(bool on) override;
+    bool FontItalic() const override { return italic_; }
+    void SetFontItalic(bool on) override;
+    bool FontUnderline() const override { return underline_; }
+    void SetFontUnderline(bool on) override;
+    bool FontStrikethru() const override { return strikethru_; }
+    void SetFontStrikethru(bool on) override;
+
+    std::uint32_t ForeColor() const override { return foreColor_; }
+    void SetForeColor(std::uint32_t color) override { foreColor_ = color; }
+
+    double CurrentX() const override { return x_; }
+    void SetCurrentX(double x) override { x_ = x; }
+    double CurrentY() const override { return y_; }
+    void SetCurrentY(double y) override { y_ = y; }
+
+    double TextWidth(const std::string& text) override;
+    double TextHeight(const std::string& text) override;
+    void PrintText(const std::string& text) override;
+
+    void Line(double x1, double y1, double x2, double y2, std::optional<std::uint32_t> color = std::nullopt) override;
+    void FilledBox(double x, double y, double dx, double dy, std::optional<std::uint32_t> color = std::nullopt) override;
+    void Circle(double cx, double cy, double radius) override;
+
+    int DrawWidth() const override { return drawWidth_; }
+    void SetDrawWidth(int pixels) override { drawWidth_ = pixels < 1 ? 1 : pixels; }
+    int FillStyle() const override { return fillStyle_; }
+    void SetFillStyle(int style) override { fillStyle_ = style; }
+
+    bool PaintPicture(const std::string& pictureFile, double x, double y, double width, double height) override;
+
+    double Width() const override { return width_; }
+    double Height() const override { return height_; }
+    double TwipsPerPixelX() const override { return twipsPerPixelX_; }
+    double TwipsPerPixelY() const override { return twipsPerPixelY_; }
+    double Ascent() override;
+
+    // The font family that stands for one of the markup's font names.
+    static QStringList FamiliesFor(const std::string& fontName);
+    static QColor ToQColor(std::uint32_t color);
+
+private:
+    struct FontEntry {
+        QFont drawFont;
+        QFontMetricsF metrics;
+        double ascent; // twips
+        double height; // twips
+        QHash<char32_t, double> widths;
+    };
+    FontEntry& Current();
+    void Begin(QPaintDevice& device);
+
+    QPainter painter_;
+    QImage reference_; // 1440 dpi: metrics come out in twips
+    double deviceDpi_ = 96;
+    double width_ = 0, height_ = 0;
+    double twipsPerPixelX_ = 15, twipsPerPixelY_ = 15;
+
+    std::string fontName_ = "Times New Roman";
+    double fontSize_ = 12;
+    bool bold_ = false, italic_ = false, underline_ = false, strikethru_ = false;
+    std::uint32_t foreColor_ = 0;
+    double x_ = 0, y_ = 0;
+    int drawWidth_ = 1;
+    int fillStyle_ = 1;
+
+    using FontKey = std::tuple<std::string, double, bool, bool, bool, bool>;
+    std::map<FontKey, std::unique_ptr<FontEntry>> fonts_;
+    FontEntry* current_ = nullptr;
+    const QFont* painterFont_ = nullptr;
+};

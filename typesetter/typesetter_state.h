@@ -1,0 +1,102 @@
+#pragma once
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+class DrawingSurface;
+
+// The metric record of one string or construct. Distances are measured from the box's
+// nominal top, the y at which its first line of text is printed.
+struct LayoutBox {
+    double lead = 0;   // room needed left of the pen; the parent moves the pen right by it
+    double width = 0;  // advance after lead
+    double over = 0;   // ink above the nominal top
+    double axis = 0;   // nominal top down to the alignment axis
+    double bottom = 0; // ink below the nominal top
+    std::u32string source;
+    double drawX = 0; // pen at which the draw pass entered the box
+    double drawY = 0;
+};
+
+inline constexpr int kMaxBoxes = 200;        // boxes of one line, box 0 unused
+inline constexpr int kMaxChildren = 9;       // child places of one construct
+inline constexpr int kMaxSegments = 50;      // constructs of one string
+inline constexpr int kMaxMarks = 500;
+inline constexpr int kMaxLines = 10000;
+inline constexpr int kSymbolCount = 78;
+
+// Every table of the typesetter, made by the caller and handed to each call. A test makes
+// a fresh one; nothing of the typesetter lives anywhere else.
+struct TypesetterState {
+    TypesetterState();
+
+    // Symbols: entities 1..78 with the glyph printed for each (UTF-8) and its code in the
+    // symbol font it comes from.
+    std::array<std::u32string, kSymbolCount + 1> SymbolName;
+    std::array<std::string, kSymbolCount + 1> SymbolGlyph;
+    std::array<int, kSymbolCount + 1> SymbolCode{};
+    // Operator rise, row "+", minus, "=", column by size class 1..3; single precision.
+    std::array<std::array<float, 3>, 3> OperatorShift{};
+    double PiValue = 0;
+
+    // Line-level tables.
+    std::array<LayoutBox, kMaxBoxes + 1> BoxTable;
+    int BoxCounter = 0;
+    std::array<std::array<int, kMaxChildren + 1>, kMaxBoxes + 1> ChildTable{};
+    int FractionDepth = 0;
+    int ScriptDepth = 0;
+    bool DrawPass = false;
+    // Set when a line asked for more boxes than the table holds: the piece being read stops,
+    // in both passes at the same place, and layout goes on with the next line.
+    bool BoxOverflow = false;
+    std::uint32_t FillColor = 0;
+    std::uint32_t LineColor = 0;
+
+    // Zoom and page geometry, twips.
+    double ZoomScale = 1.0;
+    double PageWidth = 0, PageHeight = 0;
+    double MarginLeft = 0, MarginRight = 0, MarginTop = 0, MarginBottom = 0;
+    double LineIndent = 0;
+
+    // Set by the caller before LayoutText: which surface is the screen picture, which one
+    // the printer, whether the system has a printer, whether to draw the margin guides.
+    DrawingSurface* ScreenSurface = nullptr;
+    DrawingSurface* PrinterSurface = nullptr;
+    bool PrinterInstalled = true;
+    bool ShowMarginGuides = false;
+    // Called between lines so that a window stays alive during a long layout.
+    std::function<void()> YieldToEvents;
+
+    // Results of LayoutText.
+    std::int32_t FlowResult = 0;
+    std::int32_t MarkCount = 0;
+    std::array<double, kMaxMarks> MarkTop{};
+    std::array<double, kMaxMarks> MarkBottom{};
+    std::array<bool, kMaxMarks> MarkSelected{};
+    std::array<std::int32_t, kMaxMarks> MarkProblem{};
+
+    // Texts that stand for the locale codes, set once.
+    std::u32string DecimalPointText = U".";
+    std::u32string ListSeparatorText = U",";
+    std::u32string OpenIntervalText = U"(";
+    std::u32string CloseIntervalText = U")";
+    std::u32string FunctionLetterText = U"f";
+    std::u32string DeviationText = U"&sigma";
+    std::u32string PowerOfTenText = U"\u00B710";
+
+    // Folders searched for the pictures of the image construct, in this order.
+    std::string PictureFolder;
+    std::string TempPictureFolder;
+};
+
+// Fills the entity table, PiValue, LineColor and OperatorShift. The constructor calls it.
+void InitSymbolTables(TypesetterState& state);
+
+// "r;g;b", a decimal number or a colour name (English or Spanish, any case); 0 when unknown.
+std::uint32_t ParseColor(const std::string& text);
+std::uint32_t ParseColor(const std::u32string& text);
+
+inline constexpr std::uint32_t Rgb(int r, int g, int b) {
+    return static_cast<std::uint32_t>(r) + 256u * static_cast<std::uint32_t>(g) + 65536u * static_cast<std::uint32_t>(b);
+}

@@ -162,8 +162,8 @@ bool SplitProblemElement(const std::string& element, std::string& statement, std
     if (tail.size() < 5) return false;
     solution = tail.substr(0, tail.size() - 5);
     const std::size_t headLength = element.size() - solution.size();
-    if (headLength < 20) return false;
-    statement = element.substr(5, headLength - 15 - 5);
+    if (headLength < 15) return false;
+    statement = headLength - 15 > 5 ? element.substr(5, headLength - 15 - 5) : "";
     return true;
 }
 

@@ -12,7 +12,7 @@ void PageMarks::Clear() {
 }
 
 void PageMarks::Add(std::int32_t problem, double top, double bottom) {
-    if (MarkCount >= kMaxMarks) return;
+    if (MarkCount >= kMarkCapacity) return;
     ++MarkCount;
     MarkTop.push_back(top);
     MarkBottom.push_back(bottom);

@@ -17,7 +17,7 @@ inline constexpr int kMaxProblems = 500;
 inline constexpr int kMaxBlocks = 1024;
 inline constexpr int kMaxTopicNodes = 256;
 inline constexpr int kMaxModuleNames = 999;
-inline constexpr int kMaxMarks = 500;
+inline constexpr int kMarkCapacity = 500;
 inline constexpr int kMaxPages = 500;
 inline constexpr int kToolCount = 12;
 

@@ -153,7 +153,7 @@ void PaginateDocument(ApplicationState& app, int problem) {
     }
     if (app.PageCount == 0) app.PageCount = 1;
     app.CurrentPage = PageOfProblem(app, problem);
-    app.window->SetVerticalScroll(0);
+    app.window->ScrollToTop();
     app.window->SetBusy(false);
     app.window->DrawCurrentPage();
     app.BusyFlag = false;

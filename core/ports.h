@@ -50,6 +50,8 @@ public:
     // The vertical scroll position of the sheet.
     virtual int VerticalScroll() = 0;
     virtual void SetVerticalScroll(int value) = 0;
+    // Puts the sheet's top in view (a new composition shows its page from the top).
+    virtual void ScrollToTop() = 0;
     // The Save as command, after a save failed on a write-protected target.
     virtual void RunSaveAs() = 0;
     // The recent-files list takes a file that was opened.
@@ -101,6 +103,7 @@ public:
     void DrawCurrentPage() override {}
     int VerticalScroll() override { return 0; }
     void SetVerticalScroll(int) override {}
+    void ScrollToTop() override {}
     void RunSaveAs() override {}
     void AddRecentFile(const std::string&) override {}
     bool ShowWizard() override { return false; }

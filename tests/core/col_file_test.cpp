@@ -435,3 +435,25 @@ TEST(Windows1252, MapsTheProgramsCharactersAndKeepsEveryByte) {
     for (int i = 0; i < 256; ++i) all += static_cast<char>(i);
     EXPECT_EQ(Utf8ToWindows1252(Windows1252ToUtf8(all)), all);
 }
+
+TEST_F(ColFile, HandWrittenFileWithImagesOpens) {
+    const std::string lines = Line("KVOL_TEST", "0010010001000101", "0001");
+    const std::string statement = std::string(120, '.') + "#IMG('hand.gif')#IMG)";
+    std::string text = Head(lines, "#BINDIR(DIRPOINT#BINDIR)") + "#PRO001(#ENU(" + statement + "#ENU)#SOL(#SOL)#PRO001)";
+    const std::string image = std::string("GIF89a\0\x01\x02\xFF", 10);
+    const std::size_t dir = text.size() + 1;
+    const std::size_t data = dir + 48;
+    auto field = [](std::size_t v) {
+        std::string s = std::to_string(v);
+        return s + std::string(8 - s.size(), ' ');
+    };
+    text.replace(text.find("DIRPOINT"), 8, field(dir));
+    const std::string entry = "hand.gif" + std::string(24, ' ') + field(data) + field(image.size());
+    ASSERT_TRUE(OpenBytes(text + entry + image));
+    EXPECT_EQ(bench.app.Problems[1].Statement, statement);
+    EXPECT_EQ(Read(Path("temp/hand.gif")), image);
+    // Saved again, the file is the same bytes.
+    bench.app.CurrentFileName = Path("again.col");
+    ASSERT_TRUE(SaveFile(bench.app));
+    EXPECT_EQ(Read(Path("again.col")), text + entry + image);
+}

@@ -54,6 +54,7 @@ public:
     void DrawCurrentPage() override { ++draws; }
     int VerticalScroll() override { return scroll; }
     void SetVerticalScroll(int v) override { scroll = v; }
+    void ScrollToTop() override { scroll = 0; }
     void RunSaveAs() override { ++saveAs; }
     void AddRecentFile(const std::string& p) override { recent.push_back(p); }
     bool ShowWizard() override { return wizardAccepts; }

@@ -40,6 +40,7 @@ int RenderPng(const MarkupOptions& o) {
     image.fill(Qt::white);
     {
         TypesetterState state;
+        UseQtPictures(state);
         state.ZoomScale = o.zoom;
         QtSurface surface(image);
         state.ScreenSurface = &surface;
@@ -62,6 +63,7 @@ int RenderPdf(const MarkupOptions& o) {
         writer.setResolution(1200);
         writer.setCreator("Sumforge");
         TypesetterState state;
+        UseQtPictures(state);
         state.ZoomScale = 1;
         QtSurface surface(writer);
         state.PrinterSurface = &surface;

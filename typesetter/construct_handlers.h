@@ -11,5 +11,10 @@ void PowerHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std:
 // Delimiters and rows.
 void DelimiterHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
 void RowsHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+// Over- and underlines, the integral sign, pictures, headings with sublines.
+void MarkHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+void IntegralHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+void ImageHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+void HeadingHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
 // A construct that has no drawing here yet: cut out and measured as an empty box.
 void EmptyConstructHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);

@@ -6,25 +6,25 @@
 namespace {
 const std::vector<ConstructTag> kTags = [] {
     std::vector<ConstructTag> tags = {
-        {U"#COC(", U"#COC)", EmptyConstructHandler, true},
-        {U"#ATX(", U"#ATX)", EmptyConstructHandler, true},
-        {U"#SPB(", U"#SPB)", EmptyConstructHandler, true},
-        {U"#SQR(", U"#SQR)", EmptyConstructHandler, false},
-        {U"#CUR(", U"#CUR)", EmptyConstructHandler, false},
-        {U"#RAD(", U"#RAD)", EmptyConstructHandler, false},
-        {U"#POT(", U"#POT)", EmptyConstructHandler, false},
-        {U"#EXP(", U"#EXP)", EmptyConstructHandler, false},
-        {U"#NES(", U"#NES)", EmptyConstructHandler, false},
-        {U"#RWS(", U"#RWS)", EmptyConstructHandler, true},
+        {U"#COC(", U"#COC)", FractionHandler, true},
+        {U"#ATX(", U"#ATX)", ArrowTextHandler, true},
+        {U"#SPB(", U"#SPB)", StackedPairHandler, true},
+        {U"#SQR(", U"#SQR)", RootHandler, false},
+        {U"#CUR(", U"#CUR)", RootHandler, false},
+        {U"#RAD(", U"#RAD)", RootHandler, false},
+        {U"#POT(", U"#POT)", PowerHandler, false},
+        {U"#EXP(", U"#EXP)", PowerHandler, false},
+        {U"#NES(", U"#NES)", DelimiterHandler, false},
+        {U"#RWS(", U"#RWS)", RowsHandler, true},
         {U"#CEQ(", U"#CEQ)", EmptyConstructHandler, true},
-        {U"#INT(", U"#INT)", EmptyConstructHandler, false},
+        {U"#INT(", U"#INT)", IntegralHandler, false},
         {U"#UDB(", U"#UDB)", EmptyConstructHandler, false},
-        {U"#IMG(", U"#IMG)", EmptyConstructHandler, false},
-        {U"#TST(", U"#TST)", EmptyConstructHandler, false},
+        {U"#IMG(", U"#IMG)", ImageHandler, false},
+        {U"#TST(", U"#TST)", HeadingHandler, false},
     };
     for (const char32_t* name : {U"VEC", U"VED", U"SEG", U"UDL", U"SED", U"AND", U"ARC", U"TDX", U"TDU", U"TDD", U"REC"}) {
         const std::u32string n = name;
-        tags.push_back({U"#" + n + U"(", U"#" + n + U")", EmptyConstructHandler, false});
+        tags.push_back({U"#" + n + U"(", U"#" + n + U")", MarkHandler, false});
     }
     for (char32_t kind : {U'V', U'L', U'I', U'D'}) {
         for (char32_t digit = U'3'; digit <= U'9'; ++digit) {

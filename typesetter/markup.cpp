@@ -520,13 +520,13 @@ int InterpretPiece(TypesetterState& state, int parentBox, int place, const std::
                    DrawingSurface& surface, std::u32string& fittedHead) {
     if (state.BoxCounter >= kMaxBoxes || state.BoxOverflow) {
         state.BoxOverflow = true;
-        if (!state.DrawPass && parentBox >= 0 && parentBox <= kMaxBoxes && place >= 1 && place <= kMaxChildren)
+        if (!state.DrawPass && parentBox >= 0 && parentBox <= kMaxBoxes && place >= 0 && place <= kMaxChildren)
             state.ChildTable[parentBox][place] = 0;
         return 0;
     }
     state.BoxCounter += 1;
     const int box = state.BoxCounter;
-    if (!state.DrawPass && place >= 1 && place <= kMaxChildren) state.ChildTable[parentBox][place] = box;
+    if (!state.DrawPass && place >= 0 && place <= kMaxChildren) state.ChildTable[parentBox][place] = box;
     InterpretMarkup(state, text, surface, fittedHead);
     return box;
 }
@@ -538,7 +538,7 @@ int InterpretPiece(TypesetterState& state, int parentBox, int place, const std::
 }
 
 int ChildBox(const TypesetterState& state, int parentBox, int place) {
-    if (parentBox < 0 || parentBox > kMaxBoxes || place < 1 || place > kMaxChildren) return 0;
+    if (parentBox < 0 || parentBox > kMaxBoxes || place < 0 || place > kMaxChildren) return 0;
     const int box = state.ChildTable[parentBox][place];
     return (box >= 0 && box <= kMaxBoxes) ? box : 0;
 }

@@ -34,7 +34,7 @@ double AscentTwips(const TypesetterState& state, DrawingSurface& surface);
 double StrokeTwipsPerPixel(const TypesetterState& state, const DrawingSurface& surface);
 // DrawWidth for a stroke of t twips: t / twips per pixel, not below 1.
 void SetStrokeWidth(const TypesetterState& state, DrawingSurface& surface, double t);
-// Takes the next box for piece number place (1..9) of the construct whose box is
+// Takes the next box for piece number place (0..9) of the construct whose box is
 // parentBox, records it (measure pass) and interprets text into it. Returns the box
 // number, or 0 when the box table is full (the piece is then left out, in both passes).
 int InterpretPiece(TypesetterState& state, int parentBox, int place, const std::u32string& text,

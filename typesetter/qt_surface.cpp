@@ -1,6 +1,12 @@
 #include "typesetter/qt_surface.h"
 
+#include "typesetter/typesetter_state.h"
+
+#include <QCoreApplication>
+#include <QDir>
 #include <QImageReader>
+#include <QStandardPaths>
+#include <QTextLayout>
 #include <QPagedPaintDevice>
 #include <QPen>
 #include <cmath>
@@ -14,11 +20,13 @@ QString ToQString(const std::string& s) { return QString::fromUtf8(s.data(), sta
 
 QStringList QtSurface::FamiliesFor(const std::string& fontName) {
     // The fonts that the markup names, and their metric twins on this system. The symbol
-    // fonts' codes are printed as Unicode characters, which DejaVu has.
+    // fonts' codes are printed as Unicode characters.
     if (fontName == "Times New Roman") return {"Liberation Serif", "DejaVu Serif"};
     if (fontName == "Arial") return {"Liberation Sans", "DejaVu Sans"};
     if (fontName == "Courier New") return {"Liberation Mono", "DejaVu Sans Mono"};
-    if (fontName == "Symbol" || fontName == "MT Extra") return {"DejaVu Serif", "DejaVu Sans"};
+    // Greek letters and the common signs come from the text face, so that they match it;
+    // the rest from DejaVu.
+    if (fontName == "Symbol" || fontName == "MT Extra") return {"Liberation Serif", "DejaVu Serif", "DejaVu Sans"};
     return {ToQString(fontName), "Liberation Serif", "DejaVu Sans"};
 }
 
@@ -43,6 +51,8 @@ void QtSurface::Begin(QPaintDevice& device) {
     reference_.setDotsPerMeterX(kTwipDotsPerMeter);
     reference_.setDotsPerMeterY(kTwipDotsPerMeter);
     deviceDpi_ = device.logicalDpiY();
+    device_ = &device;
+    nameId_ = NameId(fontName_);
     painter_.begin(&device);
     painter_.setRenderHint(QPainter::Antialiasing, true);
     painter_.setRenderHint(QPainter::TextAntialiasing, true);
@@ -58,7 +68,7 @@ void QtSurface::End() {
 
 QtSurface::FontEntry& QtSurface::Current() {
     if (current_) return *current_;
-    const FontKey key{fontName_, fontSize_, bold_, italic_, underline_, strikethru_};
+    const FontKey key{nameId_, fontSize_, (bold_ ? 1 : 0) | (italic_ ? 2 : 0) | (underline_ ? 4 : 0) | (strikethru_ ? 8 : 0)};
     auto found = fonts_.find(key);
     if (found == fonts_.end()) {
         QFont measure;
@@ -83,9 +93,18 @@ QtSurface::FontEntry& QtSurface::Current() {
     return *current_;
 }
 
+int QtSurface::NameId(const std::string& name) {
+    for (std::size_t i = 0; i < names_.size(); ++i)
+        if (names_[i] == name) return static_cast<int>(i);
+    names_.push_back(name);
+    return static_cast<int>(names_.size() - 1);
+}
+
 void QtSurface::SetFontName(const std::string& name) {
-    if (name != fontName_) current_ = nullptr;
+    if (name == fontName_) return;
+    current_ = nullptr;
     fontName_ = name;
+    nameId_ = NameId(name);
 }
 void QtSurface::SetFontSize(double points) {
     if (!(points > 0) || !std::isfinite(points)) points = 0.05;
@@ -110,18 +129,30 @@ void QtSurface::SetFontStrikethru(bool on) {
     strikethru_ = on;
 }
 
+namespace {
+// The one code point of a UTF-8 string, or 0 when it has more or none.
+char32_t SingleCodePoint(const std::string& s) {
+    if (s.empty()) return 0;
+    const unsigned char b = static_cast<unsigned char>(s[0]);
+    const std::size_t n = b < 0x80 ? 1 : (b >> 5) == 6 ? 2 : (b >> 4) == 14 ? 3 : (b >> 3) == 30 ? 4 : 0;
+    if (n == 0 || s.size() != n) return 0;
+    char32_t c = n == 1 ? b : n == 2 ? (b & 0x1F) : n == 3 ? (b & 0x0F) : (b & 0x07);
+    for (std::size_t i = 1; i < n; ++i) c = (c << 6) | (static_cast<unsigned char>(s[i]) & 0x3F);
+    return c;
+}
+} // namespace
+
 double QtSurface::TextWidth(const std::string& text) {
     FontEntry& f = Current();
-    const QString s = ToQString(text);
-    if (s.size() == 1 || (s.size() == 2 && s[0].isHighSurrogate())) {
-        const char32_t c = s.size() == 1 ? s[0].unicode() : QChar::surrogateToUcs4(s[0], s[1]);
+    const char32_t c = SingleCodePoint(text);
+    if (c != 0) {
         auto it = f.widths.constFind(c);
         if (it != f.widths.constEnd()) return *it;
-        const double w = f.metrics.horizontalAdvance(s);
+        const double w = f.metrics.horizontalAdvance(ToQString(text));
         f.widths.insert(c, w);
         return w;
     }
-    return f.metrics.horizontalAdvance(s);
+    return f.metrics.horizontalAdvance(ToQString(text));
 }
 
 double QtSurface::TextHeight(const std::string&) { return Current().height; }
@@ -130,13 +161,39 @@ double QtSurface::Ascent() { return Current().ascent / twipsPerPixelY_; }
 
 void QtSurface::PrintText(const std::string& text) {
     FontEntry& f = Current();
-    if (painterFont_ != &f.drawFont) {
-        painter_.setFont(f.drawFont);
-        painterFont_ = &f.drawFont;
+    const QString key = ToQString(text);
+    auto found = f.runs.constFind(key);
+    if (found == f.runs.constEnd()) {
+        // Laid out on the device with the drawing font: positions come out in twips, the
+        // painter's unit, with the baseline at the font's ascent below the top.
+        QTextLayout layout(key, f.drawFont, device_);
+        QTextOption option;
+        option.setWrapMode(QTextOption::NoWrap);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        if (line.isValid()) line.setPosition(QPointF(0, 0));
+        layout.endLayout();
+        QList<QGlyphRun> runs = layout.glyphRuns();
+        // The measured ascent decides where the baseline lies, as in the measure pass.
+        const double shift = f.ascent - (line.isValid() ? line.ascent() : f.ascent);
+        for (QGlyphRun& run : runs) {
+            QList<QPointF> positions = run.positions();
+            for (QPointF& p : positions) p.ry() += shift;
+            run.setPositions(positions);
+        }
+        found = f.runs.insert(key, runs);
     }
     painter_.setPen(ToQColor(foreColor_));
-    painter_.drawText(QPointF(x_, y_ + f.ascent), ToQString(text));
-    x_ += TextWidth(text);
+    for (const QGlyphRun& run : *found) painter_.drawGlyphRun(QPointF(x_, y_), run);
+    const double width = TextWidth(text);
+    if (underline_ || strikethru_) {
+        const double thickness = std::max(f.metrics.lineWidth(), 1.0);
+        const QColor color = ToQColor(foreColor_);
+        if (underline_) painter_.fillRect(QRectF(x_, y_ + f.ascent + f.metrics.underlinePos(), width, thickness), color);
+        if (strikethru_) painter_.fillRect(QRectF(x_, y_ + f.ascent - f.metrics.strikeOutPos(), width, thickness), color);
+    }
+    x_ += width;
 }
 
 void QtSurface::Line(double x1, double y1, double x2, double y2, std::optional<std::uint32_t> color) {
@@ -171,4 +228,28 @@ bool QtSurface::PaintPicture(const std::string& pictureFile, double x, double y,
     painter_.drawImage(QRectF(0, 0, std::fabs(width), std::fabs(height)), picture);
     painter_.restore();
     return true;
+}
+
+bool ReadPictureSize(const std::string& file, double& width, double& height) {
+    QImageReader reader(ToQString(file));
+    const QImage picture = reader.read();
+    if (picture.isNull()) return false;
+    width = picture.width();
+    height = picture.height();
+    return true;
+}
+
+void UseQtPictures(TypesetterState& state) {
+    state.LoadPicture = ReadPictureSize;
+    const QString program = QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QDir::currentPath();
+    state.PictureFolder.clear();
+    for (const QString& candidate : {program + "/img", program + "/data/img", program + "/../data/img",
+                                     program + "/../../data/img"}) {
+        if (QDir(candidate).exists()) {
+            state.PictureFolder = QDir(candidate).absolutePath().toStdString();
+            break;
+        }
+    }
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    state.TempPictureFolder = data.isEmpty() ? std::string() : (data + "/temp").toStdString();
 }

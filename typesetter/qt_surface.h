@@ -2,12 +2,15 @@
 #include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QList>
 #include <QHash>
 #include <QImage>
 #include <QPainter>
 #include <map>
 #include <memory>
 #include <tuple>
+#include <vector>
 
 #include "typesetter/drawing_surface.h"
 
@@ -82,11 +85,13 @@ private:
         double ascent; // twips
         double height; // twips
         QHash<char32_t, double> widths;
+        QHash<QString, QList<QGlyphRun>> runs; // laid out once, drawn many times
     };
     FontEntry& Current();
     void Begin(QPaintDevice& device);
 
     QPainter painter_;
+    QPaintDevice* device_ = nullptr;
     QImage reference_; // 1440 dpi: metrics come out in twips
     double deviceDpi_ = 96;
     double width_ = 0, height_ = 0;
@@ -100,8 +105,17 @@ private:
     int drawWidth_ = 1;
     int fillStyle_ = 1;
 
-    using FontKey = std::tuple<std::string, double, bool, bool, bool, bool>;
+    int NameId(const std::string& name);
+    std::vector<std::string> names_;
+    int nameId_ = 0;
+    using FontKey = std::tuple<int, double, int>;
     std::map<FontKey, std::unique_ptr<FontEntry>> fonts_;
     FontEntry* current_ = nullptr;
-    const QFont* painterFont_ = nullptr;
 };
+
+struct TypesetterState;
+// Gives the typesetter its picture loader and folders: "img" beside the program (or the
+// data folder of a checkout), and the per-user "temp" folder.
+void UseQtPictures(TypesetterState& state);
+// Reads a picture file whole; false when it isn't a picture this system can decode.
+bool ReadPictureSize(const std::string& file, double& width, double& height);

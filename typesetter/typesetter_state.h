@@ -85,9 +85,12 @@ struct TypesetterState {
     std::u32string DeviationText = U"&sigma";
     std::u32string PowerOfTenText = U"\u00B710";
 
-    // Folders searched for the pictures of the image construct, in this order.
+    // Folders searched for the pictures of the image construct, in this order: the
+    // program's pictures, then the per-user folder where generators may leave pictures.
     std::string PictureFolder;
     std::string TempPictureFolder;
+    // Reads a picture file's size in pixels; false when it can't be read as a picture.
+    std::function<bool(const std::string& file, double& width, double& height)> LoadPicture;
 };
 
 // Fills the entity table, PiValue, LineColor and OperatorShift. The constructor calls it.

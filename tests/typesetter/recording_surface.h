@@ -78,7 +78,17 @@ public:
     void SetDrawWidth(int w) override { drawWidth_ = w < 1 ? 1 : w; }
     int FillStyle() const override { return fill_; }
     void SetFillStyle(int f) override { fill_ = f; }
-    bool PaintPicture(const std::string&, double, double, double, double) override { return false; }
+    struct Picture {
+        std::string file;
+        double x, y, w, h;
+    };
+    std::vector<Picture> pictures;
+    bool picturesDraw = true; // false: every picture fails to decode when drawn
+    bool PaintPicture(const std::string& f, double x, double y, double w, double h) override {
+        if (!picturesDraw) return false;
+        pictures.push_back({f, x, y, w, h});
+        return true;
+    }
     double Width() const override { return width; }
     double Height() const override { return height; }
     double TwipsPerPixelX() const override { return tpp; }

@@ -284,3 +284,26 @@ TEST(TopicTree, RealCatalogueHasTheDrill) {
         if (TrimBlanks(node.module) == "KVOL_MATH_NRP" && node.routine == 12) found = node.itemsMax == 26;
     EXPECT_TRUE(found);
 }
+
+TEST(ApplicationStateData, LimitsConstantsAndNumberTexts) {
+    ApplicationState app;
+    EXPECT_EQ(std::string(kBuildLanguage), "ENG");
+    EXPECT_EQ(std::string(kBuildMark), "TOLM");
+    EXPECT_EQ(app.ApplicationTitle, "Tolmen - Sumforge");
+    EXPECT_EQ(app.Problems.size(), static_cast<std::size_t>(kMaxProblems + 1));
+    EXPECT_EQ(app.Blocks.size(), static_cast<std::size_t>(kMaxBlocks + 1));
+    EXPECT_EQ(app.numberTexts.timesTen, "\u00B710");
+    EXPECT_EQ(app.numberTexts.deviationMarkup, "&sigma");
+    EXPECT_EQ(app.hub.Workspace().symbols.decimalSeparator, ".");
+    EXPECT_EQ(app.hub.Workspace().symbols.timesTen, "\u00B710");
+    EXPECT_EQ(app.ZoomScale, 1.0);
+    EXPECT_EQ(app.ProblemCount(), 0);
+    EXPECT_EQ(SolutionWord("ENG"), "Solution");
+    EXPECT_EQ(SolutionsWord("ESP"), "Soluciones");
+    EXPECT_EQ(SolutionWord("ING"), "");
+    EXPECT_EQ(SolutionsWord("SPA"), "");
+    for (int i = 0; i < kToolCount; ++i) EXPECT_TRUE(app.ToolVisible[i]);
+    EXPECT_FALSE(app.ToolEnabled[2]);
+    EXPECT_FALSE(app.ToolEnabled[7]);
+    EXPECT_TRUE(app.ToolEnabled[8]);
+}

@@ -288,6 +288,15 @@ TEST_F(ColFile, OtherExtensionIsRefusedSilently) {
     EXPECT_FALSE(OpenFile(bench.app));
     EXPECT_EQ(bench.app.CurrentFileName, "");
     EXPECT_TRUE(bench.window.messages.empty());
+    // Nothing gives the toolbar and the File menu back until the next change of state.
+    EXPECT_TRUE(bench.window.busy);
+}
+
+TEST_F(ColFile, MissingFileIsABadFile) {
+    bench.app.CurrentFileName = Path("absent.col");
+    EXPECT_FALSE(OpenFile(bench.app));
+    ExpectBadFile();
+    EXPECT_FALSE(bench.window.busy);
 }
 
 TEST_F(ColFile, TitleHoldingItsClosingTagBreaksTheHead) {

@@ -1,4 +1,5 @@
 #pragma once
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -49,7 +50,7 @@ public:
         icons.push_back(icon);
     }
     void YieldEvents() override {}
-    void SetBusy(bool) override {}
+    void SetBusy(bool b) override { busy = b; }
     void SetWaitCursor(bool) override {}
     void DrawCurrentPage() override { ++draws; }
     int VerticalScroll() override { return scroll; }
@@ -57,7 +58,10 @@ public:
     void ScrollToTop() override { scroll = 0; }
     void RunSaveAs() override { ++saveAs; }
     void AddRecentFile(const std::string& p) override { recent.push_back(p); }
-    bool ShowWizard() override { return wizardAccepts; }
+    bool ShowWizard() override {
+        if (wizardAccepts) wizardEdit();
+        return wizardAccepts;
+    }
     bool ShowProperties() override {
         if (propertiesAccept) propertiesEdit();
         return propertiesAccept;
@@ -70,11 +74,13 @@ public:
     std::vector<MessageIcon> icons;
     std::vector<std::string> recent;
     int draws = 0;
+    bool busy = false;
     int scroll = 0;
     int saveAs = 0;
     bool wizardAccepts = false;
     bool propertiesAccept = false;
     std::function<void()> propertiesEdit = [] {};
+    std::function<void()> wizardEdit = [] {};
 };
 
 // Lays pages out as the typesetter does, with every line one unit high: a page holds

@@ -60,6 +60,17 @@ TEST(Undo, EveryCommandIsUndoneAndRedoneExactly) {
         {"re-create problem", [](TestBench& b) { b.SelectProblem(5); RecreateProblemCommand(b.app); }},
         {"re-create collection", [](TestBench& b) { RecreateCollectionCommand(b.app); }},
         {"no solutions", [](TestBench& b) { SolutionPositionCommand(b.app, 0); }},
+        {"new collection", [](TestBench& b) {
+             TopicNode leaf;
+             leaf.module = "KVOL_TEST";
+             leaf.routine = 2;
+             leaf.selected = true;
+             leaf.amount = 2;
+             b.app.TopicTree = {TopicNode{}, leaf};
+             b.window.wizardAccepts = true;
+             b.window.wizardEdit = [&b] { b.app.Settings.Title = "Another"; };
+             NewCollectionCommand(b.app);
+         }},
         {"solutions together at the end", [](TestBench& b) { SolutionPositionCommand(b.app, 2); }},
         {"solutions in a separate page", [](TestBench& b) { SolutionPositionCommand(b.app, 3); }},
         {"change properties of the collection", [](TestBench& b) {

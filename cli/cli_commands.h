@@ -10,6 +10,10 @@ int RunCatalogueCommand(const CliArguments& args);
 int RunGenerateCommand(const CliArguments& args);
 // markup TEXT -o OUT.png [--pdf OUT.pdf] [--size POINTS] [--zoom FACTOR]
 int RunMarkupCommand(const CliArguments& args);
+// new CHOICE... [-o FILE.col] [--pdf FILE.pdf] [collection settings]
+int RunNewCommand(const CliArguments& args);
+// render FILE.col [--pdf OUT.pdf] [--png DIR]
+int RunRenderCommand(const CliArguments& args);
 
 // Exit status for a call whose words are wrong.
 inline constexpr int kUsageError = 2;

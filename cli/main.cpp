@@ -12,7 +12,11 @@ void PrintUsage(std::ostream& out) {
            "  catalogue               list every generator by topic\n"
            "  generate MODULE CODE    print the statement and solution markup of one problem code\n"
            "  markup TEXT -o OUT.png [--pdf OUT.pdf] [--size PT] [--zoom F]\n"
-           "                          lay one markup text out on an A4 page\n";
+           "                          lay one markup text out on an A4 page\n"
+           "  new CHOICE... [-o FILE.col] [--pdf FILE.pdf] [options]\n"
+           "                          make a collection, e.g. new NRP:12x3:5 --title Practice -o p.col\n"
+           "  render FILE.col [--pdf OUT.pdf] [--png DIR]\n"
+           "                          print the pages of a collection file\n";
 }
 } // namespace
 
@@ -21,6 +25,8 @@ int main(int argc, char** argv) {
         {"catalogue", RunCatalogueCommand},
         {"generate", RunGenerateCommand},
         {"markup", RunMarkupCommand},
+        {"new", RunNewCommand},
+        {"render", RunRenderCommand},
     };
     if (argc < 2) {
         PrintUsage(std::cerr);

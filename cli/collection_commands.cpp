@@ -1,0 +1,404 @@
+#include <QCoreApplication>
+#include <QDir>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QStandardPaths>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+
+#include "cli/cli_commands.h"
+#include "core/col_file.h"
+#include "core/collection.h"
+#include "core/composition.h"
+#include "core/page_render.h"
+#include "typesetter/qt_surface.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+// The sheet of the page view at zoom 1, in pixels.
+constexpr int kSheetWidth = 796;
+constexpr int kSheetHeight = 1125;
+
+// One choice of the new command: module, routine, how many problems, items in each.
+struct Choice {
+    std::string module;
+    int routine = 0;
+    int amount = 1;
+    int items = -1;  // -1: the default of the generator
+    std::string word;
+};
+
+struct NewOptions {
+    std::vector<Choice> choices;
+    CollectionSettings settings;
+    std::string colFile;
+    std::string pdfFile;
+    bool haveSeed = false;
+    std::int32_t seed = 0;
+};
+
+bool ReadInteger(const std::string& text, long long low, long long high, long long& value) {
+    if (text.empty()) return false;
+    char* end = nullptr;
+    value = std::strtoll(text.c_str(), &end, 10);
+    return *end == '\0' && value >= low && value <= high;
+}
+
+// "NRP:12x3:5": module (short or full name), routine, amount, items per problem.
+bool ParseChoice(const std::string& word, Choice& choice) {
+    choice.word = word;
+    const auto colon = word.find(':');
+    if (colon == std::string::npos || colon == 0) return false;
+    std::string module = Upper(word.substr(0, colon));
+    choice.module = module.rfind("KVOL_", 0) == 0 ? module : "KVOL_MATH_" + module;
+    std::string rest = word.substr(colon + 1);
+    std::string items;
+    const auto second = rest.find(':');
+    if (second != std::string::npos) {
+        items = rest.substr(second + 1);
+        rest = rest.substr(0, second);
+    }
+    std::string amount;
+    const auto times = rest.find_first_of("xX");
+    if (times != std::string::npos) {
+        amount = rest.substr(times + 1);
+        rest = rest.substr(0, times);
+    }
+    long long value = 0;
+    if (!ReadInteger(rest, 1, 999, value)) return false;
+    choice.routine = static_cast<int>(value);
+    if (!amount.empty()) {
+        if (!ReadInteger(amount, 1, 99, value)) return false;
+        choice.amount = static_cast<int>(value);
+    }
+    if (!items.empty()) {
+        if (!ReadInteger(items, 0, 99, value)) return false;
+        choice.items = static_cast<int>(value);
+    }
+    return true;
+}
+
+bool ParseSolutions(const std::string& text, std::int32_t& position) {
+    const std::string t = Upper(text);
+    if (t == "NONE" || t == "0") position = 0;
+    else if (t == "AFTER" || t == "1") position = 1;
+    else if (t == "END" || t == "2") position = 2;
+    else if (t == "PAGE" || t == "SEPARATE" || t == "3") position = 3;
+    else return false;
+    return true;
+}
+
+// A colour as "#RRGGBB", "R,G,B" or the decimal value of the file (red in the low byte).
+bool ParseColour(const std::string& text, std::int32_t& colour) {
+    long long r = 0, g = 0, b = 0, value = 0;
+    if (text.size() == 7 && text[0] == '#') {
+        char* end = nullptr;
+        const long v = std::strtol(text.c_str() + 1, &end, 16);
+        if (*end != '\0') return false;
+        r = (v >> 16) & 0xFF;
+        g = (v >> 8) & 0xFF;
+        b = v & 0xFF;
+    } else if (text.find(',') != std::string::npos) {
+        const auto c1 = text.find(',');
+        const auto c2 = text.find(',', c1 + 1);
+        if (c2 == std::string::npos || !ReadInteger(text.substr(0, c1), 0, 255, r) ||
+            !ReadInteger(text.substr(c1 + 1, c2 - c1 - 1), 0, 255, g) || !ReadInteger(text.substr(c2 + 1), 0, 255, b))
+            return false;
+    } else {
+        if (!ReadInteger(text, 0, 0xFFFFFF, value)) return false;
+        colour = static_cast<std::int32_t>(value);
+        return true;
+    }
+    colour = static_cast<std::int32_t>(r + 256 * g + 65536 * b);
+    return true;
+}
+
+bool EndsWithCol(const std::string& name) { return name.size() >= 4 && Upper(name.substr(name.size() - 4)) == ".COL"; }
+
+void NewUsage() {
+    std::cerr << "Usage: sumforge-cli new CHOICE... [-o FILE.col] [--pdf FILE.pdf] [options]\n"
+                 "  CHOICE                   MODULE:ROUTINExAMOUNT[:ITEMS], e.g. NRP:12x3:5\n"
+                 "  --title TEXT             title printed at the head of every page\n"
+                 "  --solutions WHERE        none, after, end or page (default after)\n"
+                 "  --sorted | --shuffled    keep the order of the choices (default) or shuffle\n"
+                 "  --first-problem N        number of the first problem (default 1)\n"
+                 "  --prefix TEXT            text before each problem number\n"
+                 "  --suffix TEXT            text after each problem number (default \")\")\n"
+                 "  --colour C               number box colour: #RRGGBB, R,G,B or decimal\n"
+                 "  --page-numbers CODE      0 none; 8 + 1 right, 2 left, 3 centre, 4/5 alternating\n"
+                 "                           at the bottom (without 8 at the top); default 11\n"
+                 "  --first-page N           number printed on the first page (default 1)\n"
+                 "  --seed N                 start the random source from N instead of the clock\n";
+}
+
+// The Qt side the typesetter needs: a gui application, offscreen unless told otherwise.
+std::unique_ptr<QGuiApplication> StartGui() {
+    if (QGuiApplication::instance()) return nullptr;
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int argc = 1;
+    static char name[] = "sumforge-cli";
+    static char* argv[] = {name, nullptr};
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+// Picture folders: "img" beside the program, and the per-user temp folder.
+void SetFolders(ApplicationState& app, TypesetterState& typesetter) {
+    app.ImageFolder = (QCoreApplication::applicationDirPath() + "/img").toStdString();
+    QString temp = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    if (temp.isEmpty()) temp = QDir::tempPath() + "/sumforge";
+    app.TempFolder = (temp + "/temp").toStdString();
+    typesetter.PictureFolder = app.ImageFolder;
+    typesetter.TempPictureFolder = app.TempFolder;
+}
+
+// The composing machinery: the hidden screen picture that pages are measured on.
+struct Pagination {
+    QImage sheet{kSheetWidth, kSheetHeight, QImage::Format_RGB32};
+    TypesetterState typesetter;
+    std::unique_ptr<QtSurface> surface;
+    std::unique_ptr<TypesetterMeasure> measure;
+
+    explicit Pagination(ApplicationState& app) {
+        sheet.fill(Qt::white);
+        surface = std::make_unique<QtSurface>(sheet);
+        measure = std::make_unique<TypesetterMeasure>(typesetter, *surface);
+        SetFolders(app, typesetter);
+        app.measure = measure.get();
+    }
+};
+
+// Every page as printing lays it out, one PDF page each; written whole before it takes its name.
+bool WritePdf(ApplicationState& app, const std::string& path, const char* command) {
+    const std::string temporary = path + ".part";
+    {
+        QPdfWriter writer(QString::fromStdString(temporary));
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+        writer.setResolution(1200);
+        writer.setCreator("Sumforge");
+        writer.setTitle(QString::fromStdString(app.Settings.Title));
+        TypesetterState typesetter;
+        SetFolders(app, typesetter);
+        QtSurface surface(writer);
+        typesetter.PrinterSurface = &surface;
+        typesetter.PrinterInstalled = true;
+        for (int page = 1; page <= app.PageCount; ++page) {
+            if (page > 1) writer.newPage();
+            PrintOnePage(app, typesetter, surface, page);
+        }
+        surface.End();
+    }
+    std::error_code ec;
+    fs::rename(temporary, path, ec);
+    if (ec) {
+        std::remove(temporary.c_str());
+        std::cerr << "sumforge-cli " << command << ": cannot write '" << path << "': " << ec.message() << "\n";
+        return false;
+    }
+    return true;
+}
+
+// Every page as the page view draws it at zoom 1: DIR/page-001.png and on.
+bool WritePngs(ApplicationState& app, const std::string& folder, const char* command) {
+    std::error_code ec;
+    fs::create_directories(folder, ec);
+    const int kept = app.CurrentPage;
+    for (int page = 1; page <= app.PageCount; ++page) {
+        QImage image(kSheetWidth, kSheetHeight, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        {
+            TypesetterState typesetter;
+            SetFolders(app, typesetter);
+            QtSurface surface(image);
+            app.CurrentPage = page;
+            DrawCurrentPage(app, typesetter, surface);
+        }
+        char name[32];
+        std::snprintf(name, sizeof name, "page-%03d.png", page);
+        const std::string path = (fs::path(folder) / name).string();
+        if (!image.save(QString::fromStdString(path), "PNG")) {
+            std::cerr << "sumforge-cli " << command << ": cannot write '" << path << "'\n";
+            return false;
+        }
+    }
+    app.CurrentPage = kept;
+    return true;
+}
+
+int ParseNewOptions(const CliArguments& args, NewOptions& o) {
+    o.settings.NumberColour = 192 + 224 * 256 + 255 * 65536;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        const bool hasValue = i + 1 < args.size();
+        long long value = 0;
+        auto fail = [&](const std::string& message) {
+            std::cerr << "sumforge-cli new: " << message << "\n";
+            return kUsageError;
+        };
+        if ((a == "-o" || a == "--output") && hasValue) {
+            o.colFile = args[++i];
+        } else if (a == "--pdf" && hasValue) {
+            o.pdfFile = args[++i];
+        } else if (a == "--title" && hasValue) {
+            o.settings.Title = args[++i];
+        } else if (a == "--solutions" && hasValue) {
+            if (!ParseSolutions(args[++i], o.settings.SolutionPosition))
+                return fail("--solutions takes none, after, end or page");
+        } else if (a == "--sorted") {
+            o.settings.Sorted = true;
+        } else if (a == "--shuffled") {
+            o.settings.Sorted = false;
+        } else if (a == "--first-problem" && hasValue) {
+            if (!ReadInteger(args[++i], -999, 9999, value)) return fail("--first-problem takes a whole number");
+            o.settings.FirstProblemNumber = static_cast<std::int32_t>(value);
+        } else if (a == "--prefix" && hasValue) {
+            o.settings.NumberPrefix = args[++i];
+        } else if (a == "--suffix" && hasValue) {
+            o.settings.NumberSuffix = args[++i];
+        } else if ((a == "--colour" || a == "--color") && hasValue) {
+            if (!ParseColour(args[++i], o.settings.NumberColour))
+                return fail("--colour takes #RRGGBB, R,G,B or a decimal colour");
+        } else if ((a == "--page-numbers" || a == "--page-number-position") && hasValue) {
+            if (!ReadInteger(args[++i], 0, 15, value)) return fail("--page-numbers takes a code from 0 to 15");
+            o.settings.PagePositionCode = static_cast<std::int32_t>(value);
+        } else if (a == "--first-page" && hasValue) {
+            if (!ReadInteger(args[++i], -9999, 9999, value)) return fail("--first-page takes a whole number");
+            o.settings.FirstPageNumber = static_cast<std::int32_t>(value);
+        } else if (a == "--seed" && hasValue) {
+            if (!ReadInteger(args[++i], 0, 2147483647, value)) return fail("--seed takes a whole number");
+            o.haveSeed = true;
+            o.seed = static_cast<std::int32_t>(value);
+        } else if (!a.empty() && a[0] != '-') {
+            Choice choice;
+            if (!ParseChoice(a, choice)) return fail("'" + a + "' is not a choice like NRP:12x3:5");
+            o.choices.push_back(choice);
+        } else {
+            NewUsage();
+            return kUsageError;
+        }
+    }
+    if (o.choices.empty() || (o.colFile.empty() && o.pdfFile.empty())) {
+        NewUsage();
+        return kUsageError;
+    }
+    if (!o.colFile.empty() && !EndsWithCol(o.colFile)) {
+        std::cerr << "sumforge-cli new: the collection file must end in .col: '" << o.colFile << "'\n";
+        return kUsageError;
+    }
+    return 0;
+}
+} // namespace
+
+int RunNewCommand(const CliArguments& args) {
+    NewOptions o;
+    if (const int status = ParseNewOptions(args, o); status != 0) return status;
+    auto gui = StartGui();
+
+    ApplicationState app;
+    if (o.haveSeed) app.ClockSeed = [seed = o.seed] { return seed; };
+    Pagination pagination(app);
+
+    // The tree of the subject, marked with the choices, as the wizard leaves it.
+    LoadTOLISTBOX_BUILT_CODE(app, "Mathematics", true, true, true, true);
+    int total = 0;
+    for (const Choice& choice : o.choices) {
+        TopicNode* found = nullptr;
+        for (auto& node : app.TopicTree)
+            if (!node.isFolder && TrimBlanks(node.module) == choice.module && node.routine == choice.routine)
+                found = &node;
+        if (!found) {
+            std::cerr << "sumforge-cli new: no generator " << choice.module << " " << choice.routine << " ('"
+                      << choice.word << "'); see 'sumforge-cli catalogue'\n";
+            return 1;
+        }
+        if (found->selected) {
+            std::cerr << "sumforge-cli new: '" << choice.word << "' names a generator already chosen\n";
+            return kUsageError;
+        }
+        const int items = choice.items < 0 ? std::min(found->itemsMax, 10) : choice.items;
+        if (found->itemsMax > 0 && items > found->itemsMax) {
+            std::cerr << "sumforge-cli new: '" << choice.word << "' asks for " << items
+                      << " items; this generator makes at most " << found->itemsMax << "\n";
+            return kUsageError;
+        }
+        found->selected = true;
+        found->amount = choice.amount;
+        found->itemsPerProblem = found->itemsMax > 0 ? items : 0;
+        total += choice.amount;
+    }
+    if (total > kMaxProblems) {
+        std::cerr << "sumforge-cli new: Too much problems. (Max: 500)\n";
+        return kUsageError;
+    }
+    // The order of the choices is the order of the collection when it is sorted.
+    std::vector<TopicNode> ordered = {app.TopicTree.front()};
+    for (const Choice& choice : o.choices)
+        for (const auto& node : app.TopicTree)
+            if (node.selected && TrimBlanks(node.module) == choice.module && node.routine == choice.routine)
+                ordered.push_back(node);
+    app.TopicTree = ordered;
+
+    app.Settings = o.settings;
+    app.Reseed();
+    app.ModuleNames.clear();
+    Arbol_to_Var(app);
+    CrearColeccion(app, 1);
+
+    if (!o.colFile.empty()) {
+        app.CurrentFileName = o.colFile;
+        if (!SaveFile(app)) {
+            std::cerr << "sumforge-cli new: " << static_cast<QuietWindow*>(app.window)->lastMessage << "\n";
+            return 1;
+        }
+    }
+    if (!o.pdfFile.empty() && !WritePdf(app, o.pdfFile, "new")) return 1;
+    std::cout << app.ProblemCount() << " problems, " << app.PageCount << " pages\n";
+    return 0;
+}
+
+int RunRenderCommand(const CliArguments& args) {
+    std::string colFile, pdfFile, pngFolder;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        const bool hasValue = i + 1 < args.size();
+        if (a == "--pdf" && hasValue) {
+            pdfFile = args[++i];
+        } else if (a == "--png" && hasValue) {
+            pngFolder = args[++i];
+        } else if (colFile.empty() && !a.empty() && a[0] != '-') {
+            colFile = a;
+        } else {
+            colFile.clear();
+            break;
+        }
+    }
+    if (colFile.empty() || (pdfFile.empty() && pngFolder.empty())) {
+        std::cerr << "Usage: sumforge-cli render FILE.col [--pdf OUT.pdf] [--png DIR]\n";
+        return kUsageError;
+    }
+    if (!EndsWithCol(colFile)) {
+        std::cerr << "sumforge-cli render: not a collection file (.col): '" << colFile << "'\n";
+        return kUsageError;
+    }
+    auto gui = StartGui();
+    ApplicationState app;
+    Pagination pagination(app);
+    app.CurrentFileName = colFile;
+    if (!OpenFile(app)) {
+        const std::string& message = static_cast<QuietWindow*>(app.window)->lastMessage;
+        std::cerr << "sumforge-cli render: cannot open '" << colFile << "': " << (message.empty() ? "Bad file." : message)
+                  << "\n";
+        return 1;
+    }
+    if (!pdfFile.empty() && !WritePdf(app, pdfFile, "render")) return 1;
+    if (!pngFolder.empty() && !WritePngs(app, pngFolder, "render")) return 1;
+    std::cout << app.ProblemCount() << " problems, " << app.PageCount << " pages\n";
+    return 0;
+}

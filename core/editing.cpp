@@ -1,0 +1,302 @@
+#include "core/editing.h"
+
+#include <cstdlib>
+
+#include "core/col_file.h"
+#include "core/collection.h"
+#include "core/composition.h"
+
+namespace {
+void SnapshotInto(const ApplicationState& app, CollectionSnapshot& snapshot) {
+    snapshot.settings = app.Settings;
+    snapshot.problems.assign(app.Problems.begin() + 1, app.Problems.begin() + 1 + app.ProblemCount());
+}
+
+void RestoreFrom(ApplicationState& app, const CollectionSnapshot& snapshot) {
+    for (std::size_t i = 0; i < snapshot.problems.size() && i < static_cast<std::size_t>(kMaxProblems); ++i)
+        app.Problems[i + 1] = snapshot.problems[i];
+}
+
+void SetUndoItem(ApplicationState& app, const std::string& caption, bool enabled) {
+    app.UndoCaption = caption;
+    app.menus->SetCaption("mnu_Edicion_Undo", caption);
+    app.menus->SetToolTip(4, caption);
+    app.menus->SetEnabled("mnu_Edicion_Undo", enabled);
+    app.ToolEnabled[4] = enabled;
+    app.UndoSnapshot.available = enabled;
+}
+
+void SetRedoItem(ApplicationState& app, const std::string& caption, bool enabled) {
+    app.RedoCaption = caption;
+    app.menus->SetCaption("mnu_Edicion_Redo", caption);
+    app.menus->SetToolTip(5, caption);
+    app.menus->SetEnabled("mnu_Edicion_Redo", enabled);
+    app.ToolEnabled[5] = enabled;
+    app.RedoSnapshot.available = enabled;
+}
+
+void EndSelection(ApplicationState& app) {
+    app.ToolEnabled[6] = false;
+    app.ToolEnabled[7] = false;
+    app.menus->ActualizarBotones();
+}
+
+// Opens a free place at index p by shifting records p..n up by one.
+void OpenPlace(ApplicationState& app, int p) {
+    const int n = app.ProblemCount();
+    for (int i = n; i >= p; --i) app.Problems[i + 1] = app.Problems[i];
+    app.Settings.ProblemCount = n + 1;
+}
+
+// The text from the fifth character of a caption ("Undo x" gives " x").
+std::string FromFifth(const std::string& caption) { return caption.size() > 4 ? caption.substr(4) : ""; }
+
+void NewSeeds(ApplicationState& app, ProblemRecord& r) {
+    app.Reseed();
+    r.Seed = static_cast<int>(app.Random() * 9000.0);
+    r.VariantNumber = static_cast<int>(app.Random() * 900.0);
+}
+} // namespace
+
+void SetUNDO(ApplicationState& app, const std::string& description) {
+    SetRedoItem(app, "Cannot redo", false);
+    if (description.empty()) {
+        SetUndoItem(app, "Cannot undo", false);
+        return;
+    }
+    SnapshotInto(app, app.UndoSnapshot);
+    SetUndoItem(app, "Undo " + TrimBlanks(description), true);
+}
+
+void UndoCommand(ApplicationState& app) {
+    if (!app.UndoSnapshot.available) return;
+    SnapshotInto(app, app.RedoSnapshot);
+    app.Settings = app.UndoSnapshot.settings;
+    if (app.ProblemCount() == 0) {
+        NoColeccion(app);
+        return;
+    }
+    RestoreFrom(app, app.UndoSnapshot);
+    const std::string text = FromFifth(app.UndoCaption);
+    ComposeDocument(app, false, 0);
+    SetUNDO(app, "");
+    SetRedoItem(app, "Redo" + text, true);
+    app.menus->ActualizarBotones();
+}
+
+void RedoCommand(ApplicationState& app) {
+    if (!app.RedoSnapshot.available) return;
+    SetUNDO(app, FromFifth(app.RedoCaption));
+    app.Settings = app.RedoSnapshot.settings;
+    RestoreFrom(app, app.RedoSnapshot);
+    ComposeDocument(app, false, 0);
+    app.menus->ActualizarBotones();
+}
+
+bool MoverProblema(ApplicationState& app, int from, int to) {
+    const int n = app.ProblemCount();
+    if (from == to || from < 1 || from > n || to < 1 || to > n) return false;
+    ProblemRecord kept = std::move(app.Problems[from]);
+    if (to > from)
+        for (int i = from; i < to; ++i) app.Problems[i] = std::move(app.Problems[i + 1]);
+    else
+        for (int i = from; i > to; --i) app.Problems[i] = std::move(app.Problems[i - 1]);
+    app.Problems[to] = std::move(kept);
+    return true;
+}
+
+int SelectedMarkCount(const ApplicationState& app) {
+    int count = 0;
+    for (int i = 0; i < app.Marks.MarkCount; ++i)
+        if (app.Marks.MarkSelected[i]) ++count;
+    return count;
+}
+
+namespace {
+// The problem of the last selected mark, 0 when none or when its block is out of range.
+int LastSelectedProblem(const ApplicationState& app) {
+    int p = 0;
+    for (int i = 0; i < app.Marks.MarkCount; ++i) {
+        if (!app.Marks.MarkSelected[i]) continue;
+        const int block = app.Marks.MarkProblem[i];
+        // Mark "000" and marks of blocks that are gone select nothing rather than fail.
+        p = (block >= 1 && block <= app.BlockCount) ? std::abs(app.Blocks[block].problem) : 0;
+    }
+    return p;
+}
+} // namespace
+
+int SelectedProblem(const ApplicationState& app) {
+    if (app.BlockCount == 0 || app.ProblemCount() == 0) return 0;
+    if (SelectedMarkCount(app) != 1) return 0;
+    const int p = LastSelectedProblem(app);
+    return p <= app.ProblemCount() ? p : 0;
+}
+
+void MoveCommand(ApplicationState& app, int index) {
+    const int p = SelectedProblem(app);
+    if (p == 0 || index < 0 || index > 3) return;
+    const int n = app.ProblemCount();
+    const int targets[4] = {1, n, p - 1, p + 1};
+    const int target = targets[index];
+    SetUNDO(app, kMoveDescriptions[index]);
+    if (MoverProblema(app, p, target)) ComposeDocument(app, true, target);
+    EndSelection(app);
+}
+
+void DeleteCommand(ApplicationState& app) {
+    int p = SelectedProblem(app);
+    if (p == 0) return;
+    SetUNDO(app, "delete");
+    const int n = app.ProblemCount();
+    for (int i = p; i < n; ++i) app.Problems[i] = std::move(app.Problems[i + 1]);
+    app.Problems[n] = ProblemRecord{};
+    app.Settings.ProblemCount = n - 1;
+    if (app.ProblemCount() == 0) {
+        NoColeccion(app);
+    } else {
+        if (p > app.ProblemCount()) p = app.ProblemCount();
+        ComposeDocument(app, true, p);
+    }
+    EndSelection(app);
+}
+
+void CopyCommand(ApplicationState& app) {
+    const int p = SelectedProblem(app);
+    if (p == 0) return;
+    const std::string text = ProblemClipboardText(app.Problems[p]);
+    app.clipboard->Clear();
+    app.clipboard->SetText(text);
+    app.menus->SetEnabled("mnu_Edicion_Paste", true);
+    app.ToolEnabled[8] = true;
+    app.menus->ActualizarBotones();
+}
+
+void CutCommand(ApplicationState& app) {
+    if (SelectedProblem(app) == 0) return;
+    CopyCommand(app);
+    DeleteCommand(app);
+}
+
+void PasteCommand(ApplicationState& app) {
+    if (!app.clipboard->HasText()) return;
+    if (app.ProblemCount() + 1 > kMaxProblems) return;
+    const std::string text = app.clipboard->Text();
+    if (!IsProblemClipboardText(text)) {
+        app.menus->SetEnabled("mnu_Edicion_Paste", false);
+        return;
+    }
+    const bool anySelected = SelectedMarkCount(app) > 0;
+    int p = 1;
+    int scroll = 0;
+    if (anySelected) {
+        p = LastSelectedProblem(app);
+        if (p < 1 || p > app.ProblemCount()) p = 1;
+        scroll = app.window->VerticalScroll();
+    }
+    SetUNDO(app, "paste");
+    OpenPlace(app, p);
+    ProblemRecord& r = app.Problems[p];
+    r = ProblemRecord{};
+    ReadClipboardProblem(text, r);
+    AddModuleName(app, r.ModuleName);
+    EndSelection(app);
+    ComposeDocument(app, true, p);
+    if (anySelected) app.window->SetVerticalScroll(scroll);
+}
+
+void InsertSimilarCommand(ApplicationState& app) {
+    const int p = SelectedProblem(app);
+    if (p == 0 || app.ProblemCount() >= kMaxProblems) return;
+    SetUNDO(app, "insert another similar problem");
+    OpenPlace(app, p);
+    NewSeeds(app, app.Problems[p]);
+    RecreateProblem(app, p, p);
+    EndSelection(app);
+}
+
+void RecreateProblemCommand(ApplicationState& app) {
+    const int p = SelectedProblem(app);
+    if (p == 0) return;
+    SetUNDO(app, "re-create problem");
+    NewSeeds(app, app.Problems[p]);
+    const int scroll = app.window->VerticalScroll();
+    RecreateProblem(app, p, p);
+    app.window->SetVerticalScroll(scroll);
+    EndSelection(app);
+}
+
+void RecreateCollectionCommand(ApplicationState& app) {
+    if (app.ProblemCount() == 0) return;
+    SetUNDO(app, "re-create collection");
+    app.Reseed();
+    const int a = static_cast<int>(app.Random() * 9000.0);
+    const int b = static_cast<int>(app.Random() * 900.0);
+    for (int i = 1; i <= app.ProblemCount(); ++i) {
+        ProblemRecord& r = app.Problems[i];
+        r.Seed += a;
+        if (r.Seed >= 9000) r.Seed -= 9000;
+        r.VariantNumber += b;
+        if (r.VariantNumber >= 900) r.VariantNumber -= 900;
+    }
+    CrearColeccion(app, 0);
+    app.menus->ActualizarBotones();
+}
+
+void RecreateButton(ApplicationState& app) {
+    if (SelectedMarkCount(app) == 1)
+        RecreateProblemCommand(app);
+    else
+        RecreateCollectionCommand(app);
+}
+
+void SolutionPositionCommand(ApplicationState& app, int position) {
+    if (position < 0 || position > 3 || app.Settings.SolutionPosition == position) return;
+    SetUNDO(app, kPositionDescriptions[position]);
+    app.Settings.SolutionPosition = position;
+    ComposeDocument(app, true, 0);
+    ActualizaMenusCheckeados(app);
+    app.menus->ActualizarBotones();
+}
+
+void CollectionPropertiesCommand(ApplicationState& app) {
+    if (app.BlockCount == 0 || app.ProblemCount() == 0) return;
+    app.SettingsAccepted = false;
+    SetUNDO(app, "change properties of the collection");
+    app.SettingsAccepted = app.window->ShowProperties();
+    if (app.SettingsAccepted) {
+        ComposeDocument(app, true, 0);
+        ActualizaMenusCheckeados(app);
+    } else {
+        SetUNDO(app, "");
+    }
+    app.menus->ActualizarBotones();
+}
+
+void ActualizaMenusCheckeados(ApplicationState& app) {
+    for (const char* item : kPositionItems) app.menus->SetChecked(item, false);
+    const int position = app.Settings.SolutionPosition;
+    if (position >= 0 && position <= 3) app.menus->SetChecked(kPositionItems[position], true);
+}
+
+void PrepareEditMenu(ApplicationState& app) {
+    const int n = app.ProblemCount();
+    if (n == 0) return;
+    const int count = SelectedMarkCount(app);
+    const bool any = count > 0;
+    for (const char* item : {"mnu_Edicion_Cut", "mnu_Edicion_Copy", "mnu_Edicion_Del", "mnu_Edicion_INS",
+                             "mnu_Edicion_REGEN1"})
+        app.menus->SetEnabled(item, any);
+    for (int i = 0; i < 4; ++i) app.menus->SetEnabled("mnu_Edicion_Mover_" + std::to_string(i), any);
+    if (count == 1) {
+        const int p = LastSelectedProblem(app);
+        if (p == 1) {
+            app.menus->SetEnabled("mnu_Edicion_Mover_0", false);
+            app.menus->SetEnabled("mnu_Edicion_Mover_2", false);
+        }
+        if (p == n) {
+            app.menus->SetEnabled("mnu_Edicion_Mover_1", false);
+            app.menus->SetEnabled("mnu_Edicion_Mover_3", false);
+        }
+    }
+}

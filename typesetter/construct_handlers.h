@@ -16,5 +16,8 @@ void MarkHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::
 void IntegralHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
 void ImageHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
 void HeadingHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
-// A construct that has no drawing here yet: cut out and measured as an empty box.
-void EmptyConstructHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+// Ring figures and the open-chain atom.
+void RingHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+void OpenChainHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);
+// The chemical equation with notes.
+void EquationHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);

@@ -16,9 +16,9 @@ const std::vector<ConstructTag> kTags = [] {
         {U"#EXP(", U"#EXP)", PowerHandler, false},
         {U"#NES(", U"#NES)", DelimiterHandler, false},
         {U"#RWS(", U"#RWS)", RowsHandler, true},
-        {U"#CEQ(", U"#CEQ)", EmptyConstructHandler, true},
+        {U"#CEQ(", U"#CEQ)", EquationHandler, true},
         {U"#INT(", U"#INT)", IntegralHandler, false},
-        {U"#UDB(", U"#UDB)", EmptyConstructHandler, false},
+        {U"#UDB(", U"#UDB)", OpenChainHandler, false},
         {U"#IMG(", U"#IMG)", ImageHandler, false},
         {U"#TST(", U"#TST)", HeadingHandler, false},
     };
@@ -29,11 +29,11 @@ const std::vector<ConstructTag> kTags = [] {
     for (char32_t kind : {U'V', U'L', U'I', U'D'}) {
         for (char32_t digit = U'3'; digit <= U'9'; ++digit) {
             const std::u32string n = std::u32string(U"A") + digit + kind;
-            tags.push_back({U"#" + n + U"(", U"#" + n + U")", EmptyConstructHandler, false});
+            tags.push_back({U"#" + n + U"(", U"#" + n + U")", RingHandler, false});
         }
     }
-    tags.push_back({U"#BCV(", U"#BCV)", EmptyConstructHandler, false});
-    tags.push_back({U"#BCH(", U"#BCH)", EmptyConstructHandler, false});
+    tags.push_back({U"#BCV(", U"#BCV)", RingHandler, false});
+    tags.push_back({U"#BCH(", U"#BCH)", RingHandler, false});
     return tags;
 }();
 } // namespace
@@ -62,21 +62,4 @@ void ErrorPieceHandler(TypesetterState& st, const std::u32string& piece, Drawing
         box.source = piece;
         st.BoxTable[myBox] = box;
     }
-}
-
-void EmptyConstructHandler(TypesetterState& st, const std::u32string& piece, DrawingSurface& s, std::u32string&) {
-    const int myBox = st.BoxCounter;
-    LayoutBox& box = st.BoxTable[myBox];
-    if (st.DrawPass) {
-        box.drawX = s.CurrentX();
-        box.drawY = s.CurrentY();
-        return;
-    }
-    const double h = s.TextHeight("Hp");
-    box.lead = 0;
-    box.width = 0;
-    box.over = 0;
-    box.axis = 0.574 * h;
-    box.bottom = h;
-    box.source = piece;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 #include "typesetter/constructs.h"
 #include "typesetter/text_util.h"
@@ -9,8 +10,11 @@
 namespace {
 const std::u32string kErrorHead = U"&FC=Rojo:*ERROR*&FC=Negro:";
 
-bool At(const std::u32string& text, std::size_t pos, const std::u32string& what) {
-    return text.compare(pos, what.size(), what) == 0 && pos + what.size() <= text.size();
+bool At(const std::u32string& text, std::size_t pos, std::u32string_view what) {
+    if (pos + what.size() > text.size()) return false;
+    for (std::size_t i = 0; i < what.size(); ++i)
+        if (text[pos + i] != what[i]) return false;
+    return true;
 }
 
 bool IsUprightCharacter(char32_t c) {
@@ -41,6 +45,14 @@ private:
         return used;
     }
     void CloseBox();
+    // After a change of font: plain text of the new font, its baseline kept, counted in the
+    // frame of the string's nominal top; the axis follows the new font.
+    void PlainTextInNewFont() {
+        const double shiftY = entryAscent_ - ascent_;
+        segments_[0].over = std::max(segments_[0].over, -shiftY);
+        segments_[0].bottom = std::max(segments_[0].bottom, shiftY + H_);
+        segments_[0].axis = axis_;
+    }
     bool ValueCode(std::size_t& p, std::u32string& value);
     void PlainCharacter(char32_t c);
     void Script(char32_t c, bool subscript);
@@ -130,22 +142,14 @@ void Interpreter::Run() {
                 fontSize_ = s_.FontSize();
                 ReadMetrics();
                 s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
-                // Plain text of the new size, with its baseline kept, in the frame of the
-                // string's nominal top.
-                const double shiftY = entryAscent_ - ascent_;
-                segments_[0].over = std::max(segments_[0].over + segments_[0].axis, axis_ - shiftY) - axis_;
-                segments_[0].bottom = std::max(segments_[0].bottom - segments_[0].axis, H_ + shiftY - axis_) + axis_;
-                segments_[0].axis = axis_;
+                PlainTextInNewFont();
             } else if (At(text_, p, U"&FN")) {
                 if (!ValueCode(p, value)) return;
                 s_.SetFontName("Courier New");
                 s_.SetFontName(ToUtf8(value));
                 ReadMetrics();
                 s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
-                const double shiftY = entryAscent_ - ascent_;
-                segments_[0].over = std::max(segments_[0].over + segments_[0].axis, axis_ - shiftY) - axis_;
-                segments_[0].bottom = std::max(segments_[0].bottom - segments_[0].axis, H_ + shiftY - axis_) + axis_;
-                segments_[0].axis = axis_;
+                PlainTextInNewFont();
             } else if (At(text_, p, U"&FC")) {
                 if (!ValueCode(p, value)) return;
                 if (st_.DrawPass) s_.SetForeColor(ParseColor(value));
@@ -235,7 +239,8 @@ void Interpreter::Run() {
         if (!st_.DrawPass) {
             const double used = UsedWidth();
             if (used + st_.LineIndent + st_.MarginLeft + st_.MarginRight > st_.PageWidth) {
-                head_ = text_.substr(0, breakAt_ != 0 ? breakAt_ : std::min(p, len));
+                // A head handed up from the body of delimiters stands: the line is cut there.
+                if (head_.empty()) head_ = text_.substr(0, breakAt_ != 0 ? breakAt_ : std::min(p, len));
                 break;
             }
             if (breakPoint) breakAt_ = p; // the token's last position, 1-based

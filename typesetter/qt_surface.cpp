@@ -36,6 +36,7 @@ QtSurface::QtSurface(QImage& image) : reference_(1, 1, QImage::Format_ARGB32) {
     width_ = image.width();
     height_ = image.height();
     twipsPerPixelX_ = twipsPerPixelY_ = 15;
+    screenPicture_ = true;
     Begin(image);
 }
 
@@ -184,7 +185,10 @@ void QtSurface::PrintText(const std::string& text) {
         }
         found = f.runs.insert(key, runs);
     }
-    painter_.setPen(ToQColor(foreColor_));
+    if (penColor_ != foreColor_) {
+        painter_.setPen(ToQColor(foreColor_));
+        penColor_ = foreColor_;
+    }
     for (const QGlyphRun& run : *found) painter_.drawGlyphRun(QPointF(x_, y_), run);
     const double width = TextWidth(text);
     if (underline_ || strikethru_) {
@@ -201,6 +205,16 @@ void QtSurface::Line(double x1, double y1, double x2, double y2, std::optional<s
     pen.setWidthF(drawWidth_ * twipsPerPixelX_);
     pen.setCapStyle(drawWidth_ > 1 ? Qt::RoundCap : Qt::SquareCap);
     painter_.setPen(pen);
+    penColor_ = 0xFFFFFFFF;
+    if (screenPicture_ && (x1 == x2 || y1 == y2)) {
+        // A bar or a stem across pixel rows looks grey and blurred: put it on whole pixels.
+        auto snap = [&](double v, double tpp) {
+            const double px = v / tpp;
+            return (drawWidth_ % 2 == 1 ? std::floor(px) + 0.5 : std::round(px)) * tpp;
+        };
+        if (y1 == y2) y1 = y2 = snap(y1, twipsPerPixelY_);
+        else x1 = x2 = snap(x1, twipsPerPixelX_);
+    }
     painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
 }
 
@@ -212,6 +226,7 @@ void QtSurface::Circle(double cx, double cy, double radius) {
     QPen pen(ToQColor(foreColor_));
     pen.setWidthF(drawWidth_ * twipsPerPixelX_);
     painter_.setPen(pen);
+    penColor_ = 0xFFFFFFFF;
     painter_.setBrush(fillStyle_ == 0 ? QBrush(ToQColor(foreColor_)) : QBrush(Qt::NoBrush));
     painter_.drawEllipse(QPointF(cx, cy), radius, radius);
     painter_.setBrush(Qt::NoBrush);

@@ -92,6 +92,8 @@ private:
 
     QPainter painter_;
     QPaintDevice* device_ = nullptr;
+    std::uint32_t penColor_ = 0xFFFFFFFF; // the painter's pen for text, to set it only on a change
+    bool screenPicture_ = false; // straight strokes are snapped to whole pixels there
     QImage reference_; // 1440 dpi: metrics come out in twips
     double deviceDpi_ = 96;
     double width_ = 0, height_ = 0;

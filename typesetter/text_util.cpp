@@ -1,6 +1,7 @@
 #include "typesetter/text_util.h"
 
-#include <cstdlib>
+#include <charconv>
+#include <system_error>
 
 std::u32string ToU32(const std::string& utf8) {
     std::u32string out;
@@ -55,25 +56,21 @@ std::string ToUtf8(const std::u32string& text) {
 }
 
 double LeadingNumber(const std::u32string& text) {
+    // Decimal only and independent of the process's locale: markup numbers use a point.
     std::string ascii;
     std::size_t i = 0;
     while (i < text.size() && (text[i] == U' ' || text[i] == U'\t')) ++i;
+    bool negative = false;
+    if (i < text.size() && (text[i] == U'+' || text[i] == U'-')) negative = text[i++] == U'-';
     for (; i < text.size(); ++i) {
         const char32_t c = text[i];
-        if (c >= 0x80) break;
+        if (!((c >= U'0' && c <= U'9') || c == U'.' || c == U'e' || c == U'E' || c == U'+' || c == U'-')) break;
         ascii.push_back(static_cast<char>(c));
     }
-    // Only the part that reads as a number counts; strtod stops by itself.
-    const char* begin = ascii.c_str();
-    char* end = nullptr;
-    const double value = std::strtod(begin, &end);
-    if (end == begin) return 0;
-    // strtod also reads "inf", "nan" and hexadecimal; a markup number is decimal only.
-    for (const char* q = begin; q < end; ++q) {
-        const char ch = *q;
-        if (!((ch >= '0' && ch <= '9') || ch == '.' || ch == '-' || ch == '+' || ch == 'e' || ch == 'E' || ch == ' ')) return 0;
-    }
-    return value;
+    double value = 0;
+    const auto result = std::from_chars(ascii.data(), ascii.data() + ascii.size(), value, std::chars_format::general);
+    if (result.ec != std::errc() || ascii.empty() || ascii[0] == '+' || ascii[0] == '-') return 0;
+    return negative ? -value : value;
 }
 
 std::u32string TrimBlanks(const std::u32string& text) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 class DrawingSurface;
 
@@ -44,6 +45,9 @@ struct TypesetterState {
     std::array<LayoutBox, kMaxBoxes + 1> BoxTable;
     int BoxCounter = 0;
     std::array<std::array<int, kMaxChildren + 1>, kMaxBoxes + 1> ChildTable{};
+    // For a construct with more pieces than ChildTable has places (the chemical equation):
+    // the box numbers of all its pieces, in order, recorded by the measure pass.
+    std::array<std::vector<int>, kMaxBoxes + 1> CellTable;
     int FractionDepth = 0;
     int ScriptDepth = 0;
     bool DrawPass = false;

@@ -355,3 +355,16 @@ TEST_F(Constructs, MeasureAndDrawAgreeOnEveryBox) {
         if (st.BoxTable[i].drawX != 0 || st.BoxTable[i].drawY != 0) ++drawn;
     EXPECT_EQ(drawn, 10); // the ten constructs; the strings of their pieces note nothing
 }
+
+TEST_F(Constructs, CutInsideDelimitersIsCountedFromTheBody) {
+    st.PageWidth = 2000;
+    std::u32string head;
+    MeasureString(st, s, "#NES(()aa bb cc dd ee ff gg hh#NES)", &head);
+    // The head is a piece of the body, handed up through the delimiters.
+    ASSERT_FALSE(head.empty());
+    EXPECT_EQ(head.substr(0, 3), U"aa ");
+    EXPECT_EQ(std::u32string(U"aa bb cc dd ee ff gg hh#NES)").compare(0, head.size(), head), 0);
+    // Other constructs end their piece early and don't cut the line.
+    MeasureString(st, s, "#SQR(aa bb cc dd ee ff gg hh#SQR)", &head);
+    EXPECT_NE(head.substr(0, 5), U"aa bb");
+}

@@ -285,14 +285,6 @@ TEST(ExpandLocaleCodesTest, AllSix) {
     EXPECT_EQ(ExpandLocaleCodes(st, U"3&.5"), U"3,5");
 }
 
-TEST_F(Interpreter, PlaceholderConstructIsAnEmptyBox) {
-    // A construct with no drawing of its own is cut out whole and takes no width.
-    const LayoutBox b = Measure("a#UDB(x#UDB)b");
-    EXPECT_DOUBLE_EQ(b.width, 2 * (0.5 * kEm + 2));
-    Draw("a#UDB(x#UDB)b");
-    EXPECT_EQ(s.Joined(), "ab");
-}
-
 TEST_F(Interpreter, MeasureAndDrawTakeTheSameBoxNumbers) {
     const std::string text = "a#COC(1#N)(2#COC)b#SQR(x#SQR)#POT(2#PB)(3#POT)#NES(()#RWS(C#RW1(1#RW1)#RW2(2#RW2)#RWS)#NES)";
     MeasureString(st, s, text);
@@ -300,4 +292,26 @@ TEST_F(Interpreter, MeasureAndDrawTakeTheSameBoxNumbers) {
     DrawString(st, s, text);
     EXPECT_EQ(st.BoxCounter, measured);
     EXPECT_GT(measured, 1);
+}
+
+TEST(LeadingNumberTest, DecimalWithAPointWhateverTheLocale) {
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"12.5:"), 12.5);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U" -3.25mm"), -3.25);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"+7"), 7);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U".5"), 0.5);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"007"), 7);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"1,5"), 1);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"abc"), 0);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U""), 0);
+    EXPECT_DOUBLE_EQ(LeadingNumber(U"inf"), 0);
+}
+
+TEST_F(Interpreter, SeveralSizeChangesKeepTheLargestInk) {
+    // 12 points, then 24, then 6: the box holds the 24-point text, above and below.
+    const LayoutBox b = Measure("a&FS=24:b&FS=6:c");
+    const double up24 = 0.9 * 480 - 0.9 * 240; // above the 12-point top
+    EXPECT_NEAR(b.over, up24, 1e-9);
+    EXPECT_NEAR(b.bottom, -up24 + 1.15 * 480, 1e-9);
+    // The axis is that of the 6-point text, in the frame of the string's top.
+    EXPECT_NEAR(b.axis, 0.9 * 240 - 0.9 * 120 + 0.574 * 1.15 * 120, 1e-9);
 }

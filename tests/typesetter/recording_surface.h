@@ -73,7 +73,11 @@ public:
     void FilledBox(double x, double y, double dx, double dy, std::optional<std::uint32_t> c) override {
         strokes.push_back({x, y, x + dx, y + dy, c.value_or(color_), drawWidth_, true});
     }
-    void Circle(double, double, double) override {}
+    struct Round {
+        double cx, cy, r;
+    };
+    std::vector<Round> circles;
+    void Circle(double cx, double cy, double r) override { circles.push_back({cx, cy, r}); }
     int DrawWidth() const override { return drawWidth_; }
     void SetDrawWidth(int w) override { drawWidth_ = w < 1 ? 1 : w; }
     int FillStyle() const override { return fill_; }

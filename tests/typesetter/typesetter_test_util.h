@@ -64,5 +64,6 @@ inline void MeasureAndDraw(TypesetterState& st, RecordingSurface& s, const std::
     s.texts.clear();
     s.strokes.clear();
     s.pictures.clear();
+    s.circles.clear();
     DrawString(st, s, text, x, y);
 }

@@ -418,18 +418,20 @@ bool OpenFile(ApplicationState& app) {
     }
 
     const int n = app.ProblemCount();
+    std::size_t from = 0;  // where the rest of the file begins
     for (int i = 1; i <= n; ++i) {
         const std::string close = "#PRO" + BlockMark(i) + ")";
-        const auto at = rest.find(close);
+        const auto at = rest.find(close, from);
         std::string statement;
         std::string solution;
-        if (at == std::string::npos || at < 8 || !SplitProblemElement(rest.substr(8, at - 8), statement, solution)) {
+        if (at == std::string::npos || at < from + 8 ||
+            !SplitProblemElement(rest.substr(from + 8, at - from - 8), statement, solution)) {
             AvisoError(app);
             return false;
         }
         app.Problems[i].Statement = Windows1252ToUtf8(statement);
         app.Problems[i].Solution = Windows1252ToUtf8(solution);
-        rest.erase(0, at + close.size());
+        from = at + close.size();
     }
 
     if (dir != 0) {

@@ -45,6 +45,14 @@ private:
         return used;
     }
     void CloseBox();
+    // After a change of font: plain text of the new font, its baseline kept, counted in the
+    // frame of the string's nominal top; the axis follows the new font.
+    void PlainTextInNewFont() {
+        const double shiftY = entryAscent_ - ascent_;
+        segments_[0].over = std::max(segments_[0].over, -shiftY);
+        segments_[0].bottom = std::max(segments_[0].bottom, shiftY + H_);
+        segments_[0].axis = axis_;
+    }
     bool ValueCode(std::size_t& p, std::u32string& value);
     void PlainCharacter(char32_t c);
     void Script(char32_t c, bool subscript);
@@ -134,22 +142,14 @@ void Interpreter::Run() {
                 fontSize_ = s_.FontSize();
                 ReadMetrics();
                 s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
-                // Plain text of the new size, with its baseline kept, in the frame of the
-                // string's nominal top.
-                const double shiftY = entryAscent_ - ascent_;
-                segments_[0].over = std::max(segments_[0].over + segments_[0].axis, axis_ - shiftY) - axis_;
-                segments_[0].bottom = std::max(segments_[0].bottom - segments_[0].axis, H_ + shiftY - axis_) + axis_;
-                segments_[0].axis = axis_;
+                PlainTextInNewFont();
             } else if (At(text_, p, U"&FN")) {
                 if (!ValueCode(p, value)) return;
                 s_.SetFontName("Courier New");
                 s_.SetFontName(ToUtf8(value));
                 ReadMetrics();
                 s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
-                const double shiftY = entryAscent_ - ascent_;
-                segments_[0].over = std::max(segments_[0].over + segments_[0].axis, axis_ - shiftY) - axis_;
-                segments_[0].bottom = std::max(segments_[0].bottom - segments_[0].axis, H_ + shiftY - axis_) + axis_;
-                segments_[0].axis = axis_;
+                PlainTextInNewFont();
             } else if (At(text_, p, U"&FC")) {
                 if (!ValueCode(p, value)) return;
                 if (st_.DrawPass) s_.SetForeColor(ParseColor(value));

@@ -343,7 +343,10 @@ TEST_F(ColFile, DamagedFilesGiveTheMessageAndNoCollection) {
         ASSERT_EQ(b.window.messages.size(), 1u) << cut;
         const std::string& m = b.window.messages[0];
         EXPECT_TRUE(m == "Bad file." || m == "Error: Bad file.") << cut << " " << m;
-        if (cut <= headEnd) EXPECT_NE(m, "") << cut;
+        // Cut before the head's end, the head's closing tag is missing.
+        if (cut < headEnd + 10) {
+            EXPECT_EQ(m, "Bad file.") << cut;
+        }
     }
     // Truncated inside the image data: the directory points past the end.
     for (std::size_t cut = good.find("#PRO003)") + 8; cut < good.size(); ++cut) {

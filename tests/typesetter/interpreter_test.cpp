@@ -305,3 +305,13 @@ TEST(LeadingNumberTest, DecimalWithAPointWhateverTheLocale) {
     EXPECT_DOUBLE_EQ(LeadingNumber(U""), 0);
     EXPECT_DOUBLE_EQ(LeadingNumber(U"inf"), 0);
 }
+
+TEST_F(Interpreter, SeveralSizeChangesKeepTheLargestInk) {
+    // 12 points, then 24, then 6: the box holds the 24-point text, above and below.
+    const LayoutBox b = Measure("a&FS=24:b&FS=6:c");
+    const double up24 = 0.9 * 480 - 0.9 * 240; // above the 12-point top
+    EXPECT_NEAR(b.over, up24, 1e-9);
+    EXPECT_NEAR(b.bottom, -up24 + 1.15 * 480, 1e-9);
+    // The axis is that of the 6-point text, in the frame of the string's top.
+    EXPECT_NEAR(b.axis, 0.9 * 240 - 0.9 * 120 + 0.574 * 1.15 * 120, 1e-9);
+}

@@ -150,12 +150,10 @@ std::unique_ptr<QGuiApplication> StartGui() {
 
 // Picture folders: "img" beside the program, and the per-user temp folder.
 void SetFolders(ApplicationState& app, TypesetterState& typesetter) {
-    app.ImageFolder = (QCoreApplication::applicationDirPath() + "/img").toStdString();
-    QString temp = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    if (temp.isEmpty()) temp = QDir::tempPath() + "/sumforge";
-    app.TempFolder = (temp + "/temp").toStdString();
-    typesetter.PictureFolder = app.ImageFolder;
-    typesetter.TempPictureFolder = app.TempFolder;
+    UseQtPictures(typesetter);
+    if (typesetter.TempPictureFolder.empty()) typesetter.TempPictureFolder = (QDir::tempPath() + "/sumforge/temp").toStdString();
+    app.ImageFolder = typesetter.PictureFolder;
+    app.TempFolder = typesetter.TempPictureFolder;
 }
 
 // The composing machinery: the hidden screen picture that pages are measured on.

@@ -20,6 +20,8 @@ for svg in "$src"/*.svg; do
   if [ "$name" = mathematics ]; then
     convert "$tmp/$name.png" -quality 92 "$root/data/Mathematics.jpg"
   else
-    convert "$tmp/$name.png" -background white -flatten -colors 64 "$root/data/img/$name.gif"
+    # Every tag gives its figure a negative height, which paints the picture mirrored
+    # top to bottom; the files are kept upside down so that the page shows them upright.
+    convert "$tmp/$name.png" -background white -flatten -flip -colors 64 "$root/data/img/$name.gif"
   fi
 done

@@ -254,17 +254,18 @@ bool ReadPictureSize(const std::string& file, double& width, double& height) {
     return true;
 }
 
-void UseQtPictures(TypesetterState& state) {
-    state.LoadPicture = ReadPictureSize;
+std::string ProgramPictureFolder() {
     const QString program = QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QDir::currentPath();
-    state.PictureFolder.clear();
     for (const QString& candidate : {program + "/img", program + "/data/img", program + "/../data/img",
                                      program + "/../../data/img"}) {
-        if (QDir(candidate).exists()) {
-            state.PictureFolder = QDir(candidate).absolutePath().toStdString();
-            break;
-        }
+        if (QDir(candidate).exists()) return QDir(candidate).absolutePath().toStdString();
     }
+    return {};
+}
+
+void UseQtPictures(TypesetterState& state) {
+    state.LoadPicture = ReadPictureSize;
+    state.PictureFolder = ProgramPictureFolder();
     const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     state.TempPictureFolder = data.isEmpty() ? std::string() : (data + "/temp").toStdString();
 }

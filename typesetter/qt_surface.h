@@ -119,5 +119,8 @@ struct TypesetterState;
 // Gives the typesetter its picture loader and folders: "img" beside the program (or the
 // data folder of a checkout), and the per-user "temp" folder.
 void UseQtPictures(TypesetterState& state);
+// The folder of the figure pictures: "img" beside the program, or the data folder of a
+// checkout when the program runs from its build folder; empty when there is none.
+std::string ProgramPictureFolder();
 // Reads a picture file whole; false when it isn't a picture this system can decode.
 bool ReadPictureSize(const std::string& file, double& width, double& height);

@@ -336,6 +336,9 @@ DerivativeItem MakeHardDerivative(GeneratorWorkspace& ws, int type) {
 
 namespace {
 const ColumnMarks kDerivativeColumns = {"&SP=5:", "&SP=50:"};
+// The solution's rows begin after the word "Solution:", which the first statement column
+// would run into.
+const ColumnMarks kDerivativeSolutionColumns = {"&SP=10:", "&SP=55:"};
 
 // The drill of derivatives: the type counter runs round the 19 types, a coin draws it
 // anew; two columns in statement and solution.
@@ -363,7 +366,7 @@ void DerivativeDrill(GeneratorWorkspace& ws, DerivativeItem (*make)(GeneratorWor
         const std::string& mark = kDerivativeColumns[(i - 1) % 2];
         const bool endOfRow = i % 2 == 0 || i == count;
         statement += mark + "&+B" + ItemLetter(i) + ")&-B  &+Iy =&-I " + statements[i - 1] + (endOfRow ? "&LF" : "");
-        solution += mark + "&+B" + ItemLetter(i) + ")&-B  &+Iy&-I_ '_ = " + solutions[i - 1] + (endOfRow ? "&LF" : "");
+        solution += kDerivativeSolutionColumns[(i - 1) % 2] + "&+B" + ItemLetter(i) + ")&-B  &+Iy&-I_ '_ = " + solutions[i - 1] + (endOfRow ? "&LF" : "");
     }
     ws.Statement = statement + "&LF";
     ws.Solution = solution;

@@ -10,12 +10,13 @@
 #include "mathservices/poly_markup.h"
 
 namespace {
-// Inside these integrals italic is already open, so the variable is a plain "x".
+// Inside these integrals italic is open, so the variable is a plain "x"; it closes after
+// the integral, so that the next item's letter stands upright.
 const std::string kX = "x";
 
 std::string IntegralOf(const RationalIntegral& r) {
     return "&+I#INT(#COC(" + PolynomialToMarkup(0, 0, 0, r.n1, r.n0, kX) + "#N)(" +
-           PolynomialToMarkup(0, 0, r.d2, r.d1, r.d0, kX) + "#COC) dx#INT)";
+           PolynomialToMarkup(0, 0, r.d2, r.d1, r.d0, kX) + "#COC) dx#INT)&-I";
 }
 
 std::string LogOf(const std::string& inner) { return "&-Iln|&+I" + inner + "|"; }

@@ -26,6 +26,13 @@ bool ReadNumber(const std::string& word, double& value) {
     return end != word.c_str() && *end == '\0' && value > 0 && value < 1000;
 }
 
+// The offscreen platform's note about a missing runtime folder is no news to a user of the
+// command line; every other message goes through.
+void QuietMessages(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR"))) return;
+    std::cerr << qPrintable(qFormatLogMessage(type, context, message)) << "\n";
+}
+
 void Usage() {
     std::cerr << "sumforge-cli markup: expected TEXT -o OUT.png [--pdf OUT.pdf] [--size POINTS] [--zoom FACTOR]\n";
 }
@@ -116,6 +123,7 @@ int RunMarkupCommand(const CliArguments& args) {
         return kUsageError;
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(QuietMessages);
     std::unique_ptr<QGuiApplication> app;
     if (!QGuiApplication::instance()) {
         static int argc = 1;

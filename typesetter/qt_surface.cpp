@@ -87,7 +87,7 @@ QtSurface::FontEntry& QtSurface::Current() {
         // units high on a device of deviceDpi_.
         draw.setPointSizeF(measure.pointSizeF() * 1440.0 / deviceDpi_);
         auto entry = std::unique_ptr<FontEntry>(
-            new FontEntry{draw, metrics, metrics.ascent(), metrics.height(), {}});
+            new FontEntry{draw, metrics, metrics.ascent(), metrics.height(), {}, {}});
         found = fonts_.emplace(key, std::move(entry)).first;
     }
     current_ = found->second.get();

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "tests/typesetter/gui_application.h"
 #include "tests/typesetter/typesetter_test_util.h"
 #include "typesetter/construct_frame.h"
 #include "typesetter/layout.h"
@@ -38,13 +39,6 @@ const std::string kTinyGif("GIF89a\x01\x00\x01\x00\x80\x00\x00\x00\x00\x00\xff\x
                            "\x00\x00\x00\x00\x01\x00\x01\x00\x00\x02\x02\x44\x01\x00;",
                            43);
 
-QGuiApplication& App() {
-    static int argc = 1;
-    static char name[] = "typesetter_tests";
-    static char* argv[] = {name, nullptr};
-    static QGuiApplication* app = QGuiApplication::instance() ? nullptr : new QGuiApplication(argc, argv);
-    return *static_cast<QGuiApplication*>(QGuiApplication::instance());
-}
 } // namespace
 
 TEST_F(Lines, VectorArrowTakesTheLineColour) {
@@ -244,7 +238,7 @@ TEST_F(Lines, HeadingWithoutFirstSublineShowsTheError) {
 }
 
 TEST(PictureFiles, GifJpegPngLoadAndCorruptFilesDoNot) {
-    App();
+    EnsureGuiApplication();
     QTemporaryDir dir;
     QImage picture(30, 20, QImage::Format_RGB32);
     picture.fill(Qt::blue);

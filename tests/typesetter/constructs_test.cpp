@@ -305,13 +305,15 @@ TEST_F(Constructs, MalformedInputNeverCrashes) {
     for (const auto& tag : ConstructTags()) {
         const std::string open = ToUtf8(tag.open);
         const std::string close = ToUtf8(tag.close);
-        for (const std::string& text : {open + "x", open + "a#N)(b#T)(c" + close, close + "x" + open, open + close,
+        for (const std::string& text : std::vector<std::string>{open + "x", open + "a#N)(b#T)(c" + close, close + "x" + open, open + close,
                                         open + "#RI(3" + close, open + "C#RW1(a#RW1)#RW3(b#RW3)" + close}) {
             Draw(text);
-            if (text.find(close) == std::string::npos) EXPECT_NE(s.Joined().find("*ERROR*"), std::string::npos) << text;
+            if (text.find(close) == std::string::npos) {
+                EXPECT_NE(s.Joined().find("*ERROR*"), std::string::npos) << text;
+            }
         }
     }
-    for (const std::string& text : {"#COC(a#COC)", "#COC(a#N)(b", "#ATX(a#ATX)", "#SPB(Ca#SPB)", "#POT(a#POT)",
+    for (const std::string& text : std::vector<std::string>{"#COC(a#COC)", "#COC(a#N)(b", "#ATX(a#ATX)", "#SPB(Ca#SPB)", "#POT(a#POT)",
                                     "#RAD(#RI(3#RAD)", "#RWS(L#RW2(a#RW2)#RWS)"}) {
         Draw(text);
         EXPECT_NE(s.Joined().find("*ERROR*"), std::string::npos) << text;

@@ -281,7 +281,7 @@ TEST(ParseFillListTest, KindWidthHeight) {
 TEST(ExpandLocaleCodesTest, AllSix) {
     TypesetterState st;
     EXPECT_EQ(ExpandLocaleCodes(st, U"3&.5&,&(a&)&FA&DT"), U"3.5,(a)f&sigma");
-    st.DecimalPointText = U",";
+    st.DecimalPointText = std::u32string(1, U',');
     EXPECT_EQ(ExpandLocaleCodes(st, U"3&.5"), U"3,5");
 }
 

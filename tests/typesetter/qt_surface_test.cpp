@@ -7,29 +7,20 @@
 #include <QPdfWriter>
 #include <QTemporaryDir>
 
+#include "tests/typesetter/gui_application.h"
 #include "typesetter/layout.h"
 #include "typesetter/markup.h"
 #include "typesetter/text_util.h"
 #include "typesetter/qt_surface.h"
 
 namespace {
-QGuiApplication& App() {
-    static int argc = 1;
-    static char name[] = "typesetter_tests";
-    static char* argv[] = {name, nullptr};
-    static QGuiApplication* app = [] {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        return new QGuiApplication(argc, argv);
-    }();
-    return *app;
-}
 
 struct Picture {
     QImage image{794, 1123, QImage::Format_RGB32};
     std::unique_ptr<QtSurface> surface;
     TypesetterState state;
     Picture() {
-        App();
+        EnsureGuiApplication();
         image.fill(Qt::white);
         surface = std::make_unique<QtSurface>(image);
         state.ScreenSurface = surface.get();
@@ -138,7 +129,7 @@ TEST(QtSurfaceTest, FractionRuleIsDrawnBetweenItsParts) {
 }
 
 TEST(QtSurfaceTest, PdfKeepsTextAsText) {
-    App();
+    EnsureGuiApplication();
     QTemporaryDir dir;
     const QString file = dir.filePath("t.pdf");
     {

@@ -9,6 +9,7 @@
 
 #include "core/collection.h"
 #include "core/composition.h"
+#include "typesetter/picture_files.h"
 #include "core/editing.h"
 #include "mathservices/utf8_text.h"
 
@@ -66,10 +67,8 @@ bool ReadWholeFile(const std::string& path, std::string& bytes) {
 // Where a picture of the collection stands: the image folder first, then the temp folder.
 std::string FindImage(const ApplicationState& app, const std::string& name) {
     for (const std::string& folder : {app.ImageFolder, app.TempFolder}) {
-        if (folder.empty()) continue;
-        const fs::path path = fs::path(folder) / name;
-        std::error_code ec;
-        if (fs::is_regular_file(path, ec)) return path.string();
+        const std::string path = FindFileIgnoringCase(folder, name);
+        if (!path.empty()) return path;
     }
     return "";
 }

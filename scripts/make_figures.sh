@@ -22,6 +22,7 @@ for svg in "$src"/*.svg; do
   else
     # Every tag gives its figure a negative height, which paints the picture mirrored
     # top to bottom; the files are kept upside down so that the page shows them upright.
-    convert "$tmp/$name.png" -background white -flatten -flip -colors 64 "$root/data/img/$name.gif"
+    # White is transparent, so that the free band at the top never hides the line above.
+    convert "$tmp/$name.png" -background white -flatten -flip -fuzz 3% -transparent white "$root/data/img/$name.gif"
   fi
 done

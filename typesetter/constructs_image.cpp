@@ -4,27 +4,10 @@
 
 #include "typesetter/construct_frame.h"
 #include "typesetter/construct_handlers.h"
+#include "typesetter/picture_files.h"
 #include "typesetter/text_util.h"
 
 namespace {
-std::string UpperName(const std::string& name) {
-    std::string out = name;
-    for (char& c : out)
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-    return out;
-}
-
-// The file of that name in the folder, whatever the case of either.
-std::string FindIgnoringCase(const std::string& folder, const std::string& name) {
-    if (folder.empty() || name.empty()) return "";
-    std::error_code ec;
-    const std::string wanted = UpperName(name);
-    for (std::filesystem::directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {
-        if (UpperName(it->path().filename().string()) == wanted && it->is_regular_file(ec)) return it->path().string();
-    }
-    return "";
-}
-
 // The number behind "KEY=" up to the next ":", 0 when the key is absent.
 double OptionNumber(const std::u32string& options, const std::u32string& key, bool& present) {
     const std::size_t at = options.find(key + U"=");
@@ -59,7 +42,7 @@ void ImageHandler(TypesetterState& st, const std::u32string& piece, DrawingSurfa
     bool loaded = false;
     const std::string fileName = ToUtf8(name);
     for (const std::string* folder : {&st.PictureFolder, &st.TempPictureFolder}) {
-        const std::string candidate = FindIgnoringCase(*folder, fileName);
+        const std::string candidate = FindFileIgnoringCase(*folder, fileName);
         if (!candidate.empty() && st.LoadPicture && st.LoadPicture(candidate, pictureW, pictureH) && pictureW > 0 &&
             pictureH > 0) {
             file = candidate;

@@ -16,6 +16,8 @@ FILL2 = "#cfdcef"
 ACCENT = "#b03030"
 STROKE = 0.32
 FONT = 3.1
+# A line of 12-point text is about 4.9 mm high.
+TOP_BAND = 5.5
 
 
 class Figure:
@@ -91,12 +93,16 @@ class Figure:
     def _dash(dash):
         return ' stroke-dasharray="1.0,0.8"' if dash else ""
 
-    def save(self):
-        body = "\n  ".join(self.items)
+    def save(self, top_band=TOP_BAND):
+        # A figure hangs from the top of the line above the one that holds it, so the
+        # drawing keeps that line's height free at its top, scaled down to fit below it.
+        s = (self.h - top_band) / self.h
+        dx = self.w * (1 - s) / 2
+        body = "\n    ".join(self.items)
         svg = (f'<?xml version="1.0" encoding="UTF-8"?>\n'
                f'<svg xmlns="http://www.w3.org/2000/svg" width="{self.w}mm" height="{self.h}mm"'
                f' viewBox="0 0 {self.w} {self.h}">\n  <rect width="100%" height="100%" fill="white"/>\n'
-               f'  {body}\n</svg>\n')
+               f'  <g transform="translate({dx:.3f},{top_band}) scale({s:.5f})">\n    {body}\n  </g>\n</svg>\n')
         with open(os.path.join(OUT, self.name + ".svg"), "w") as f:
             f.write(svg)
 
@@ -652,7 +658,7 @@ def subject_mathematics():
     f.polygon([(9, 24), (18, 24), (9, 18)], fill="#d7e8cf")
     f.text((30, 21.5), "&#960;", size=6.0, color="#b03030")
     f.text((15.5, 8.5), "x&#178;", size=4.2)
-    f.save()
+    f.save(top_band=0)
 
 
 ALL = [right_triangle, rectangle, isosceles_triangle, thales, two_similar_triangles, square, rhombus,

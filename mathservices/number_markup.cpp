@@ -39,6 +39,13 @@ std::string PlainNumberText(double x) {
     return text;
 }
 
+std::string DecimalText(double x) {
+    std::string text = PlainNumberText(x);
+    if (StartsWith(text, ".")) return "0" + text;
+    if (StartsWith(text, "-.")) return "-0" + text.substr(1);
+    return text;
+}
+
 std::string NumberToMarkup(double x) {
     std::string text = WithLeadingZero(PlainNumberText(std::fabs(x)));
     const auto e = text.find('E');

@@ -9,6 +9,8 @@
 // The plain number text: fifteen significant digits, "0." written ".", "1E+20" for a
 // large number, and a negative zero as "0".
 std::string PlainNumberText(double x);
+// The plain number text with a zero before a leading point, as a book writes it: "0.5", "-0.5".
+std::string DecimalText(double x);
 
 std::string NumberToMarkup(double x);
 std::string NumberToSignificantMarkup(double x, double digits);

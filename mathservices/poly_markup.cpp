@@ -70,6 +70,8 @@ std::string ListOf(MathWorkspace& ws, int dimension, const std::array<double, 3>
 }
 } // namespace
 
+// Coefficients are written with a zero before a leading decimal point ("0.5x"), as a book
+// does; the plain number text alone would give ".5x".
 std::string PolynomialToMarkup(double c4, double c3, double c2, double c1, double c0, std::string variable) {
     if (variable.empty()) variable = kX;
     const double c[5] = {c0, c1, c2, c3, c4};
@@ -82,7 +84,7 @@ std::string PolynomialToMarkup(double c4, double c3, double c2, double c1, doubl
         else text += value < 0 ? " - " : " + ";
         first = false;
         const double magnitude = std::fabs(value);
-        if (magnitude != 1 || degree == 0) text += PlainNumberText(magnitude);
+        if (magnitude != 1 || degree == 0) text += DecimalText(magnitude);
         if (degree >= 1) text += variable;
         if (degree >= 2) text += "^" + std::to_string(degree);
     }
@@ -104,7 +106,7 @@ std::string PolyWorkToMarkup(const PolyWork& poly, const std::string& variable) 
             if (value == 0) continue;
             text += value < 0 ? " - " : joiner;
             const double magnitude = std::fabs(value);
-            if (magnitude != 1) text += PlainNumberText(magnitude);
+            if (magnitude != 1) text += DecimalText(magnitude);
             else if (k == 0) text += "1";
             if (k >= 1) text += variable;
             if (k >= 2) text += "^" + std::to_string(k);
@@ -131,7 +133,7 @@ std::string LinearFormToMarkup(const Coefficient& a, const Coefficient& b, const
             if (coefficient.value == 0) return;
             negative = coefficient.value < 0;
             const double magnitude = std::fabs(coefficient.value);
-            if (magnitude != 1 || letter.empty()) body = PlainNumberText(magnitude);
+            if (magnitude != 1 || letter.empty()) body = DecimalText(magnitude);
         }
         if (first) text += negative ? "-" : "";
         else text += negative ? " - " : " + ";
@@ -145,7 +147,7 @@ std::string LinearFormToMarkup(const Coefficient& a, const Coefficient& b, const
         text += " = 0";
     } else {
         if (first) text = "0";
-        text += " = " + (d.text.empty() ? PlainNumberText(d.value) : d.text);
+        text += " = " + (d.text.empty() ? DecimalText(d.value) : d.text);
     }
     return Finish(text);
 }

@@ -122,3 +122,10 @@ TEST(ComplexPolarToMarkup, ModulusWithArgumentBelow) {
     EXPECT_EQ(ComplexPolarToMarkup(ws, -1, 0, 0), "1#SPB(L #T)(&pi rad#SPB)");
     EXPECT_EQ(ComplexPolarToMarkup(ws, 0, -3, 1), "3#SPB(L #T)(270\u00B0#SPB)");
 }
+
+TEST(DecimalText, LeadingZero) {
+    EXPECT_EQ(DecimalText(0.5), "0.5");
+    EXPECT_EQ(DecimalText(-0.5), "-0.5");
+    EXPECT_EQ(DecimalText(12.5), "12.5");
+    EXPECT_EQ(DecimalText(0), "0");
+}

@@ -172,3 +172,9 @@ TEST(VectorFormToMarkup, SlopeInterceptKeepsFractions) {
     EXPECT_EQ(VectorFormToMarkup(ws, line, LineForm::SlopeIntercept, "t"),
               "&+Iy&-I& =& #COC(3#N)(2#COC)&+Ix&-I& +& #COC(71#N)(2#COC)");
 }
+
+TEST(PolynomialToMarkup, DecimalsHaveTheirLeadingZero) {
+    EXPECT_EQ(PolynomialToMarkup(0, 0, 0, 0.8778, -90.8213, ""), "0&.8778&+Ix&-I& -& 90&.8213");
+    EXPECT_EQ(PolynomialToMarkup(0, 0, -0.5, 0, 0.25, ""), "-0&.5&+Ix&-I^2& +& 0&.25");
+    EXPECT_EQ(LinearFormToMarkup(0.5, 0, 0, -0.5, false), "0&.5&+Ix&-I& =& -0&.5");
+}

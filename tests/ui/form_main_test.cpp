@@ -279,8 +279,8 @@ TEST_F(WindowFixture, FitWidthNeverGoesBelowHalf) {
 }
 
 TEST_F(WindowFixture, DownHeldScrollsToTheEndThenTurnsThePage) {
-    wantedProblems = 14;
-    itemsPerProblem = 12;
+    wantedProblems = 20;
+    itemsPerProblem = 8;
     MakeWindow();
     form->NewCommand();
     ASSERT_GE(app->PageCount, 2);

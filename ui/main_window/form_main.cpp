@@ -647,6 +647,11 @@ void FormMain::ActualizarBotones() {
         }
         tools_[i]->setVisible(app_.ToolVisible[i]);
     }
+    // The sheet, its shadow and its scroll bar exist only with a collection.
+    const bool shown = app_.ProblemCount() > 0;
+    picture1_->setVisible(shown);
+    shapeShadow_->setVisible(shown);
+    vscroll1_->setVisible(shown && verticalNeeded_);
 }
 
 void FormMain::SetCaption(const std::string& caption) { setWindowTitle(QString::fromStdString(caption)); }
@@ -809,8 +814,10 @@ void FormMain::Geometry() {
         vscroll1_->setRange(H - 30 - Q, T + 5);
         vscroll1_->setPageStep(std::max(1, H - T - kPicture2Height));
         vscroll1_->setValue(T + 5);
+        verticalNeeded_ = true;
         vscroll1_->setVisible(app_.ProblemCount() > 0);
     } else {
+        verticalNeeded_ = false;
         top = T + 5 + (H - T - kPicture2Height - 8 - Q) / 2;
         vscroll1_->hide();
     }

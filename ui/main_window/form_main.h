@@ -214,6 +214,7 @@ private:
     QStringList pendingFiles_;
     bool firstActivation_ = true;
     bool busyUi_ = false;
+    bool verticalNeeded_ = false;
     QString printer_;
 
     // The typesetter tables and the measuring picture of the present zoom.

@@ -278,6 +278,7 @@ void FormMain::BuildMenus() {
     AddItem(file, "mnu_File_Print", "&Print...", [this] { PrintCommand(); });
     zep04_ = file->addSeparator();
     zep04_->setObjectName("zep04");
+    items_["zep04"] = zep04_;
     for (int i = 1; i <= kRecentCount; ++i)
         recent_[i] = AddItem(file, QString("mnu_File_Reciente_%1").arg(i), QString(), [this, i] { RecentCommand(i); });
     file->addSeparator();

@@ -31,7 +31,13 @@ int main(int argc, char** argv) {
     QApplication::restoreOverrideCursor();
     QObject::connect(splash.Timer1(), &QTimer::timeout, [&] {
         form.show();
+        form.activateWindow();
         splash.close();
+        // Without a window manager the window may never become active; its first
+        // activation still has to fit the page and open the waiting files.
+        QTimer::singleShot(300, &form, [&form] {
+            if (form.FirstActivation()) form.Activated();
+        });
     });
     splash.Timer1()->start();
     return application.exec();

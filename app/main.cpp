@@ -1,0 +1,44 @@
+#include <QApplication>
+#include <QCursor>
+#include <QTimer>
+
+#include "core/application_state.h"
+#include "ui/dialog_launcher.h"
+#include "ui/main_window/form_main.h"
+#include "ui/main_window/form_splash.h"
+
+// The system hands the arguments already split: one argument is the whole name (blanks
+// and all), several are the quoted list.
+static QString JoinedCommandLine(const QStringList& arguments) {
+    if (arguments.size() <= 1) return arguments.value(0);
+    QString line;
+    for (const QString& argument : arguments) line += "\"" + argument + "\" ";
+    return line;
+}
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Sumforge RUQ7");
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+
+    ApplicationState app;
+    FormSplash splash(QString::fromStdString(app.ApplicationTitle));
+    splash.show();
+    // The wizard and the properties dialog come with their own branch; until then both
+    // count as cancelled.
+    DialogLauncher launcher;
+    FormMain form(app, launcher, JoinedCommandLine(application.arguments().mid(1)));
+    QApplication::restoreOverrideCursor();
+    QObject::connect(splash.Timer1(), &QTimer::timeout, [&] {
+        form.show();
+        form.activateWindow();
+        splash.close();
+        // Without a window manager the window may never become active; its first
+        // activation still has to fit the page and open the waiting files.
+        QTimer::singleShot(300, &form, [&form] {
+            if (form.FirstActivation()) form.Activated();
+        });
+    });
+    splash.Timer1()->start();
+    return application.exec();
+}

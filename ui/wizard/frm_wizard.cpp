@@ -660,8 +660,8 @@ QString FrmWizard::GetDefaultTitle() const {
     for (const TopicNode& node : tree) {
         if (node.kind < 1 || node.kind > 4 || !node.selected) continue;
         switch (node.kind) {
-            case 1: word = word.isEmpty() ? "Questions" : "Problems"; break;
-            case 2: word = word.isEmpty() ? "Exercises" : "Problems"; break;
+            case 1: word = (word.isEmpty() || word == "Questions") ? "Questions" : "Problems"; break;
+            case 2: word = (word.isEmpty() || word == "Exercises") ? "Exercises" : "Problems"; break;
             case 3: word = "Problems"; break;
             default: word = "Theory"; break;
         }

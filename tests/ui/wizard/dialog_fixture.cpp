@@ -109,3 +109,25 @@ void ScriptModal(std::function<void(QWidget*)> script) {
         script(modal);
     });
 }
+
+#include "core/collection.h"
+#include "ui/wizard/run_dialogs.h"
+
+bool DialogWindow::ShowWizard() { return RunNewCollectionWizard(app_, nullptr); }
+bool DialogWindow::ShowProperties() { return RunCollectionProperties(app_, nullptr); }
+
+CollectionBench::CollectionBench(int n) : app(GeneratorHub({FakeCatalogueModule()})) {
+    app.window = &window;
+    app.measure = &measure;
+    app.ClockSeed = [] { return 77; };
+    LoadTOLISTBOX_BUILT_CODE(app, "Mathematics", true, true, true, false);
+    for (TopicNode& node : app.TopicTree)
+        if (node.label == "Areas") {
+            node.selected = true;
+            node.amount = n;
+        }
+    app.Settings.ProblemCount = WantedProblemCount(app);
+    Arbol_to_Var(app);
+    CrearColeccion(app, 1);
+    HayColeccion(app);
+}

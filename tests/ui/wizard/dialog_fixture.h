@@ -28,3 +28,33 @@ GeneratorModule FakeCatalogueModule();
 
 // Runs script on the modal dialog as soon as it shows.
 void ScriptModal(std::function<void(QWidget*)> script);
+
+// A window whose settings dialogs are the real ones; counts the page measurements, that
+// is the compositions.
+class DialogWindow : public QuietWindow {
+public:
+    explicit DialogWindow(ApplicationState& app) : app_(app) {}
+    bool ShowWizard() override;
+    bool ShowProperties() override;
+
+private:
+    ApplicationState& app_;
+};
+
+class CountingMeasure : public FitAllMeasure {
+public:
+    std::int32_t MeasurePage(const std::string& text, double zoomScale) override {
+        ++calls;
+        return FitAllMeasure::MeasurePage(text, zoomScale);
+    }
+    int calls = 0;
+};
+
+// A state over the small catalogue with a collection of n problems of "Areas" in hand.
+struct CollectionBench {
+    explicit CollectionBench(int n = 3);
+    TemporarySettings settings;
+    ApplicationState app;
+    DialogWindow window{app};
+    CountingMeasure measure;
+};

@@ -156,7 +156,9 @@ QRect TopicTreeView::PartRect(int row, Part part) const {
         case Part::Kind: return {x0 + 34, y, 18, kRowHeight};
         case Part::Label: {
             const int left = LabelLeft(node) - horizontalScrollBar()->value();
-            const int width = fontMetrics().horizontalAdvance(QString::fromStdString(tree_[node].label)) + 8;
+            QFont font = this->font();
+            font.setBold(tree_[node].kind == kNodeSubject);
+            const int width = QFontMetrics(font).horizontalAdvance(QString::fromStdString(tree_[node].label)) + 8;
             return {left - 2, y, width, kRowHeight};
         }
     }
@@ -166,7 +168,7 @@ QRect TopicTreeView::PartRect(int row, Part part) const {
 QSize TopicTreeView::ContentSize() const {
     int width = 0;
     for (int node : rows_)
-        width = std::max(width, LabelLeft(node) + fontMetrics().horizontalAdvance(QString::fromStdString(tree_[node].label)) + 10);
+        width = std::max(width, LabelLeft(node) + fontMetrics().horizontalAdvance(QString::fromStdString(tree_[node].label)) + 24);
     return {width, RowCount() * kRowHeight};
 }
 

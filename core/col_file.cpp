@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <unistd.h>
 
 #include "core/collection.h"
 #include "core/composition.h"
@@ -279,7 +280,10 @@ bool SaveFile(ApplicationState& app) {
                                                                                    : 57;
             description = std::strerror(e);
         } else {
-            const bool written = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+            // Flushed to the disk before the rename, so that the new name never points at
+            // a file the system still holds only in memory.
+            bool written = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+            written = written && std::fflush(out) == 0 && ::fsync(::fileno(out)) == 0;
             const int e = errno;
             const bool closed = std::fclose(out) == 0;
             if (!written || !closed) {

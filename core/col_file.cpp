@@ -1,5 +1,6 @@
 #include "core/col_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -352,7 +353,7 @@ bool OpenFile(ApplicationState& app) {
     std::string directory;
     std::string images;
     auto readDirectory = [&](const std::string& pointer) -> bool {
-        dir = static_cast<long long>(LeadingNumber(pointer));
+        dir = static_cast<long long>(std::clamp(LeadingNumber(pointer), -1.0, 1e15));
         if (dir == 0) return true;
         // A pointer outside the file, or data before the directory, is a damaged file.
         if (dir < 1 || static_cast<std::size_t>(dir) > file.size()) return false;
@@ -402,7 +403,12 @@ bool OpenFile(ApplicationState& app) {
     }
 
     CollectionSettings& s = app.Settings;
-    auto number = [](const std::string& value) { return static_cast<std::int32_t>(LeadingNumber(value)); };
+    // A value too large for the field is held at the field's end rather than converted out
+    // of range.
+    auto number = [](const std::string& value) {
+        const double v = LeadingNumber(value);
+        return static_cast<std::int32_t>(std::clamp(v, -2147483648.0, 2147483647.0));
+    };
     s.Title = Windows1252ToUtf8(values[1]);
     s.PagePositionCode = number(values[2]);
     s.NumberColour = number(values[3]);

@@ -4,22 +4,23 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <cstdlib>
-#include <memory>
 
 #include "tests/fuzz/fuzz_support.h"
 #include "typesetter/layout.h"
 #include "typesetter/qt_surface.h"
 
 namespace {
-std::unique_ptr<QGuiApplication> application;
-std::unique_ptr<QImage> picture;
+// Made once and never destroyed: Qt's own statics are gone by the time the exit handlers
+// would run a destructor.
+QGuiApplication* application = nullptr;
+QImage* picture = nullptr;
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    application = std::make_unique<QGuiApplication>(*argc, *argv);
+    application = new QGuiApplication(*argc, *argv);
     // A third of an A4 page at zoom 1: long texts also meet the page's end.
-    picture = std::make_unique<QImage>(794, 380, QImage::Format_RGB32);
+    picture = new QImage(794, 380, QImage::Format_RGB32);
     return 0;
 }
 

@@ -1,11 +1,13 @@
 #include "core/col_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <unistd.h>
 
 #include "core/collection.h"
 #include "core/composition.h"
@@ -278,7 +280,10 @@ bool SaveFile(ApplicationState& app) {
                                                                                    : 57;
             description = std::strerror(e);
         } else {
-            const bool written = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+            // Flushed to the disk before the rename, so that the new name never points at
+            // a file the system still holds only in memory.
+            bool written = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+            written = written && std::fflush(out) == 0 && ::fsync(::fileno(out)) == 0;
             const int e = errno;
             const bool closed = std::fclose(out) == 0;
             if (!written || !closed) {
@@ -347,7 +352,7 @@ bool OpenFile(ApplicationState& app) {
     std::string directory;
     std::string images;
     auto readDirectory = [&](const std::string& pointer) -> bool {
-        dir = static_cast<long long>(LeadingNumber(pointer));
+        dir = static_cast<long long>(std::clamp(LeadingNumber(pointer), -1.0, 1e15));
         if (dir == 0) return true;
         // A pointer outside the file, or data before the directory, is a damaged file.
         if (dir < 1 || static_cast<std::size_t>(dir) > file.size()) return false;
@@ -397,7 +402,12 @@ bool OpenFile(ApplicationState& app) {
     }
 
     CollectionSettings& s = app.Settings;
-    auto number = [](const std::string& value) { return static_cast<std::int32_t>(LeadingNumber(value)); };
+    // A value too large for the field is held at the field's end rather than converted out
+    // of range.
+    auto number = [](const std::string& value) {
+        const double v = LeadingNumber(value);
+        return static_cast<std::int32_t>(std::clamp(v, -2147483648.0, 2147483647.0));
+    };
     s.Title = Windows1252ToUtf8(values[1]);
     s.PagePositionCode = number(values[2]);
     s.NumberColour = number(values[3]);

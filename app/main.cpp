@@ -4,6 +4,7 @@
 
 #include "core/application_state.h"
 #include "ui/dialog_launcher.h"
+#include "ui/wizard/run_dialogs.h"
 #include "ui/main_window/form_main.h"
 #include "ui/main_window/form_splash.h"
 
@@ -24,9 +25,9 @@ int main(int argc, char** argv) {
     ApplicationState app;
     FormSplash splash(QString::fromStdString(app.ApplicationTitle));
     splash.show();
-    // The wizard and the properties dialog come with their own branch; until then both
-    // count as cancelled.
     DialogLauncher launcher;
+    launcher.wizard = RunNewCollectionWizard;
+    launcher.properties = RunCollectionProperties;
     FormMain form(app, launcher, JoinedCommandLine(application.arguments().mid(1)));
     QApplication::restoreOverrideCursor();
     QObject::connect(splash.Timer1(), &QTimer::timeout, [&] {

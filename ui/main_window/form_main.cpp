@@ -45,6 +45,7 @@ constexpr int kPicture2Height = 25;
 constexpr int kScrollStep = 40;
 const QColor kWorkArea(52, 56, 62);
 const QColor kShadow(64, 64, 64);
+// Organisation and application both, so that the window and the wizard share one store.
 const char* kSettingsApplication = "Sumforge RUQ7";
 
 bool EndsWithCol(const QString& name) { return name.endsWith(".col", Qt::CaseInsensitive); }
@@ -203,7 +204,7 @@ FormMain::FormMain(ApplicationState& app, DialogLauncher launcher, const QString
     app_.ToolEnabled.fill(true);
     for (int i = 2; i <= 7; ++i) app_.ToolEnabled[i] = false;
     // 5: the item starts opposite to the wanted state and its handler turns it.
-    QSettings settings(QSettings::IniFormat, QSettings::UserScope, kSettingsApplication);
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, kSettingsApplication, kSettingsApplication);
     const bool wanted = settings.value("Ver/EdicBotones", "N").toString() == "S";
     Item("mnu_Ver_BotEdic")->setChecked(!wanted);
     ToggleEditButtons();
@@ -487,7 +488,7 @@ void FormMain::ToolClick(int index) {
 }
 
 void FormMain::ReadSettings() {
-    QSettings settings(QSettings::IniFormat, QSettings::UserScope, kSettingsApplication);
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, kSettingsApplication, kSettingsApplication);
     zep04_->setVisible(false);
     bool any = false;
     for (int i = 1; i <= kRecentCount; ++i) {
@@ -505,7 +506,7 @@ void FormMain::ReadSettings() {
 }
 
 void FormMain::WriteSettings() {
-    QSettings settings(QSettings::IniFormat, QSettings::UserScope, kSettingsApplication);
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, kSettingsApplication, kSettingsApplication);
     settings.setValue("Ver/EdicBotones", Item("mnu_Ver_BotEdic")->isChecked() ? "S" : "N");
     for (int i = 1; i <= kRecentCount; ++i) {
         settings.setValue(QString("Reciente/Titulo%1").arg(i), recent_[i]->text());

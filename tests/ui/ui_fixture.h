@@ -41,7 +41,7 @@ struct WindowFixture : public ::testing::Test {
         app.reset();
     }
 
-    QSettings Settings() { return QSettings(QSettings::IniFormat, QSettings::UserScope, "Sumforge RUQ7"); }
+    QSettings Settings() { return QSettings(QSettings::IniFormat, QSettings::UserScope, "Sumforge RUQ7", "Sumforge RUQ7"); }
 
     // A wizard without its window: the subject's tree, with one generator marked.
     DialogLauncher ScriptedLauncher() {

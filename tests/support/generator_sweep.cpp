@@ -84,5 +84,7 @@ void SweepRoutine(const std::string& module, int routine, int seedCount,
     }
     // The mean, not each problem: a single problem can be delayed by a loaded machine.
     // Benchmarks give the real figures; this only catches a generator gone slow.
-    if (generated > 0) EXPECT_LT(totalMilliseconds / generated, 10.0) << module << " " << routine;
+    if (generated > 0) {
+        EXPECT_LT(totalMilliseconds / generated, 10.0) << module << " " << routine;
+    }
 }

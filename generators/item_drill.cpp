@@ -16,6 +16,16 @@ bool EndsRow(const ColumnMarks& marks, int i, int n) { return i % static_cast<in
 
 std::string ItemLetter(int i) { return kLetters.substr(static_cast<std::size_t>(i - 1), 1); }
 
+double NextAddOrSubtract(GeneratorWorkspace& ws, double operation) {
+    operation += 1;
+    if (operation > 2) operation = 1;
+    const bool toSubtraction = Coin(ws, 0.9f);
+    if (operation == 1 && toSubtraction) operation = 2;
+    const bool toAddition = Coin(ws, 0.9f);
+    if (operation == 2 && toAddition) operation = 1;
+    return operation;
+}
+
 int DrillItemCount(const GeneratorWorkspace& ws, int maxAmount) {
     const int limit = std::min(maxAmount, 26);
     return std::clamp(static_cast<int>(ws.ItemCount), 1, limit);

@@ -45,5 +45,10 @@ private:
     std::vector<std::string> items_;
 };
 
+// The operation of the next item of an addition and subtraction drill (1 addition, 2
+// subtraction): the operations alternate, and two coins, both always drawn, give a small
+// chance of a repeat.
+double NextAddOrSubtract(GeneratorWorkspace& ws, double operation);
+
 // The letter of item i, counted from 1.
 std::string ItemLetter(int i);

@@ -16,13 +16,7 @@ void AdditionAndSubtractionOfNaturalNumbers(GeneratorWorkspace& ws) {
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
-        operation += 1;
-        if (operation > 2) operation = 1;
-        // Both coins are always drawn, whatever the operation.
-        const bool toSubtraction = Coin(ws, 0.9f);
-        if (operation == 1 && toSubtraction) operation = 2;
-        const bool toAddition = Coin(ws, 0.9f);
-        if (operation == 2 && toAddition) operation = 1;
+        operation = NextAddOrSubtract(ws, operation);
         std::string text;
         double result = 0;
         // An item equal to an earlier one is drawn anew (the numbers too: building the

@@ -6,6 +6,7 @@
 
 #include "generators/catalogue.h"
 #include "generators/hub.h"
+#include "generators/module_router.h"
 #include "mathservices/utf8_text.h"
 
 // The whole catalogue as the program must describe it: every routine of every module with
@@ -378,7 +379,9 @@ TEST(CatalogueTable, EveryDescribedRoutineMatchesItsRow) {
         EXPECT_EQ(e.TopicName, Utf8PadRight(row->topicName, 80)) << line;
         EXPECT_EQ(e.SubtopicId, row->subtopicId) << line;
         EXPECT_EQ(e.Kind, row->kind) << line;
-        if (row->maxAmount[0] != '\0') EXPECT_EQ(e.MaxAmount, row->maxAmount) << line;
+        if (row->maxAmount[0] != '\0') {
+            EXPECT_EQ(e.MaxAmount, row->maxAmount) << line;
+        }
         EXPECT_EQ(e.Title, Utf8PadRight(row->title, 80)) << line;
         EXPECT_EQ(e.Description, Utf8PadRight(row->description, 160)) << line;
     }
@@ -400,6 +403,40 @@ TEST(CatalogueTable, EveryRoutineRunsAndDescribesItself) {
                 << module.name << " " << entry.number << " has no describe block";
         }
     }
+}
+
+TEST(CatalogueTable, DescribingDrawsNothingAndADashLeavesTheItemCountAlone) {
+    // Each routine, run in describe mode, fills only its catalogue fields: no text, no draw
+    // from the stream, and without an item count of its own the caller's stays.
+    GeneratorHub hub;
+    for (const auto& module : hub.Modules()) {
+        for (const auto& entry : module.routines) {
+            const CatalogueRow* row = FindRow(module.name, entry.number);
+            ASSERT_NE(row, nullptr) << module.name << " " << entry.number;
+            GeneratorWorkspace ws;
+            ws.DescribeMode = -1;
+            ws.MaxAmount = "inherited";
+            ws.stream.SeedStream(5);
+            const auto stateBefore = ws.stream.State();
+            const GeneratorRoutine routine = module.Find(entry.number);
+            ASSERT_NE(routine, nullptr);
+            routine(ws);
+            EXPECT_EQ(ws.stream.State(), stateBefore) << row->title;
+            EXPECT_EQ(ws.Subject, "Mathematics") << row->title;
+            EXPECT_EQ(ws.MaxAmount, row->maxAmount[0] ? row->maxAmount : "inherited") << row->title;
+            EXPECT_TRUE(ws.Statement.empty()) << row->title;
+            EXPECT_TRUE(ws.Solution.empty()) << row->title;
+        }
+    }
+}
+
+TEST(CatalogueTable, EachModuleHoldsExactlyItsRows) {
+    GeneratorHub hub;
+    std::map<std::string, int> rows;
+    for (const auto& row : kCatalogue) ++rows[row.module];
+    std::map<std::string, int> registered;
+    for (const auto& module : hub.Modules()) registered[module.name] = static_cast<int>(module.routines.size());
+    EXPECT_EQ(registered, rows);
 }
 
 TEST(CatalogueTable, HeadersAndEntriesAddUp) {

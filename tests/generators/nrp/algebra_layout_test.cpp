@@ -98,3 +98,14 @@ TEST(AlgebraLayout, WordedProblemsIgnoreTheItemCount) {
         }
     }
 }
+
+// Drills with the item count 27 of their catalogue line still write 26 lettered items.
+TEST(AlgebraLayout, TwentySevenItemsAreClippedToTheLetters) {
+    GeneratorHub hub;
+    for (int routine : {27, 31, 33, 38}) {
+        std::string statement, solution;
+        hub.RunGenerator("KVOL_MATH_NRP", MakeProblemCode({routine, 0, 77, 27, 1, 1}), statement, solution);
+        EXPECT_NE(statement.find("&+Bz)"), std::string::npos) << routine;
+        EXPECT_EQ(statement.find("&+B{"), std::string::npos) << routine;
+    }
+}

@@ -158,3 +158,23 @@ TEST(NaturalNumberDrills, ThreeColumnsOfAnswers) {
         EXPECT_NE(p.statement.find("&SP=76:&+Bd)&-B&+I "), std::string::npos) << p.statement;
     }
 }
+
+TEST(NaturalNumberDrills, SameCodeSameTextWhateverCameBetween) {
+    GeneratorHub hub;
+    const int routines[] = {1, 2, 5, 6, 7, 8, 9, 10, 11, 13, 14, 15, 21, 22, 23, 24, 25};
+    for (int routine : routines) {
+        const std::string code = MakeProblemCode({routine, 12, 3456, 7, 2, 1});
+        std::string statement, solution;
+        hub.RunGenerator("KVOL_MATH_NRP", code, statement, solution);
+        // Another problem of each drill in between.
+        for (int other : routines) {
+            std::string s, t;
+            hub.RunGenerator("KVOL_MATH_NRP", MakeProblemCode({other, 1, 77, 26, 1, 1}), s, t);
+        }
+        std::string again, againSolution;
+        hub.RunGenerator("KVOL_MATH_NRP", code, again, againSolution);
+        EXPECT_EQ(again, statement) << code;
+        EXPECT_EQ(againSolution, solution) << code;
+        EXPECT_FALSE(statement.empty()) << code;
+    }
+}

@@ -399,7 +399,7 @@ void Interpreter::DrawnSign(char32_t kind) {
 }
 
 bool Interpreter::Construct(const ConstructTag& tag, std::size_t& p) {
-    const std::u32string piece = ExtractBalanced(text_.substr(p), tag.open, tag.close);
+    const std::u32string piece = ExtractBalancedAt(text_, p, tag.open, tag.close);
     if (segmentCount_ >= kMaxSegments || st_.BoxCounter >= kMaxBoxes) {
         // Fails safe: the tables hold no more; the rest of this string is left out.
         if (st_.BoxCounter >= kMaxBoxes) st_.BoxOverflow = true;
@@ -450,17 +450,26 @@ std::u32string ErrorDisplayText(const std::u32string& errorText) {
 }
 
 std::u32string ExtractBalanced(const std::u32string& text, const std::u32string& openTag, const std::u32string& closeTag) {
-    const std::size_t first = text.find(openTag);
-    if (first == std::u32string::npos || text.find(closeTag) == std::u32string::npos) return BalanceErrorText(openTag);
+    return ExtractBalancedAt(text, 0, openTag, closeTag);
+}
+
+std::u32string ExtractBalancedAt(const std::u32string& text, std::size_t from, const std::u32string& openTag,
+                                 const std::u32string& closeTag) {
+    const std::u32string_view all(text);
+    const std::size_t first = all.find(openTag, from);
+    if (first == std::u32string_view::npos || all.find(closeTag, from) == std::u32string_view::npos)
+        return BalanceErrorText(openTag);
     int depth = 1;
     std::size_t pos = first + openTag.size();
     while (true) {
-        const std::size_t close = text.find(closeTag, pos);
-        if (close == std::u32string::npos) return BalanceErrorText(openTag);
-        const std::size_t open = text.find(openTag, pos);
-        if (open != std::u32string::npos && open < close) {
+        const std::size_t close = all.find(closeTag, pos);
+        if (close == std::u32string_view::npos) return BalanceErrorText(openTag);
+        // Only an opening tag that starts before this close counts; the search stops
+        // there, so a long text after the piece is not read again for every construct.
+        const std::size_t open = all.substr(pos, close - pos + openTag.size() - 1).find(openTag);
+        if (open != std::u32string_view::npos) {
             depth += 1;
-            pos = open + openTag.size();
+            pos = pos + open + openTag.size();
             continue;
         }
         depth -= 1;

@@ -13,6 +13,9 @@ void InterpretMarkup(TypesetterState& state, const std::u32string& text, Drawing
 // The first balanced piece of text from openTag through its matching closeTag, tags
 // included, or the red error text when a tag is missing.
 std::u32string ExtractBalanced(const std::u32string& text, const std::u32string& openTag, const std::u32string& closeTag);
+// The same, searching from position from of text on.
+std::u32string ExtractBalancedAt(const std::u32string& text, std::size_t from, const std::u32string& openTag,
+                                 const std::u32string& closeTag);
 // What ExtractBalanced returns when it finds no balanced piece.
 std::u32string BalanceErrorText(const std::u32string& openTag);
 bool IsBalanceError(const std::u32string& piece);

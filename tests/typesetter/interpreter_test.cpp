@@ -266,6 +266,52 @@ TEST(ExtractBalancedTest, Nesting) {
     EXPECT_EQ(ExtractBalanced(U"#COC(1#N)(2#COC)", U"#COC(", U"#N)"), U"#COC(1#N)");
 }
 
+namespace {
+// The search as written first, on a copy of the rest of the text: the reference for the
+// search that works in place.
+std::u32string ReferenceBalanced(const std::u32string& text, const std::u32string& open, const std::u32string& close) {
+    const std::size_t first = text.find(open);
+    if (first == std::u32string::npos || text.find(close) == std::u32string::npos) return BalanceErrorText(open);
+    int depth = 1;
+    std::size_t pos = first + open.size();
+    while (true) {
+        const std::size_t c = text.find(close, pos);
+        if (c == std::u32string::npos) return BalanceErrorText(open);
+        const std::size_t o = text.find(open, pos);
+        if (o != std::u32string::npos && o < c) {
+            depth += 1;
+            pos = o + open.size();
+            continue;
+        }
+        if (--depth == 0) return text.substr(first, c + close.size() - first);
+        pos = c + close.size();
+    }
+}
+} // namespace
+
+TEST(ExtractBalancedTest, InPlaceSearchAgreesWithTheSearchOnACopy) {
+    // Random texts of tags, halves of tags and letters, searched from every position, for
+    // pairs whose closer is a different tag and pairs that share a prefix.
+    const std::pair<std::u32string, std::u32string> pairs[] = {
+        {U"#COC(", U"#COC)"}, {U"#COC(", U"#N)"}, {U"(", U")"}, {U"#TST(", U"#TS)("}, {U"ab", U"ba"}};
+    const std::u32string pieces[] = {U"#COC(", U"#COC)", U"#N)", U"(", U")", U"#TS", U"#TST(", U"#TS)(", U"a", U"b", U"#"};
+    unsigned state = 12345;
+    for (int round = 0; round < 3000; ++round) {
+        std::u32string text;
+        const int n = 1 + static_cast<int>(state % 12);
+        for (int i = 0; i < n; ++i) {
+            state = state * 1103515245u + 12345u;
+            text += pieces[(state >> 16) % std::size(pieces)];
+        }
+        for (const auto& [open, close] : pairs) {
+            for (std::size_t from = 0; from <= text.size(); ++from) {
+                ASSERT_EQ(ExtractBalancedAt(text, from, open, close), ReferenceBalanced(text.substr(from), open, close))
+                    << std::string(text.begin(), text.end()) << " from " << from;
+            }
+        }
+    }
+}
+
 TEST(ParseFillListTest, KindWidthHeight) {
     std::u32string kind;
     double w = -1, h = -1;

@@ -166,7 +166,9 @@ TEST_F(Layout, LongParagraphBreaksAtBlanks) {
         EXPECT_LE(s.texts[i].x + 0.5 * kEm, right + 1e-6);
         firstX = std::min(firstX, s.texts[i].x);
         // A line begins with a "w": the space stayed at the end of the previous piece.
-        if (i > 0 && s.texts[i].y != s.texts[i - 1].y) EXPECT_EQ(s.texts[i].text, "w");
+        if (i > 0 && s.texts[i].y != s.texts[i - 1].y) {
+            EXPECT_EQ(s.texts[i].text, "w");
+        }
     }
 }
 

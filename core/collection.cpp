@@ -78,8 +78,13 @@ std::string ProblemIdentity(const ProblemRecord& r) { return Utf8PadRight(r.Modu
 void ReadProblemIdentity(const std::string& columns, ProblemRecord& r) {
     r.ModuleName = TrimBlanks(Utf8Left(columns, 80));
     const std::string code = Utf8Mid(columns, 80, 16);
+    // A damaged line may hold a sign, an exponent or junk in a column: the field keeps what
+    // its digits can say (0 up to all nines), so the code written back is still 16 digits.
     auto field = [&](std::size_t start, std::size_t width) {
-        return static_cast<int>(LeadingNumber(start < code.size() ? code.substr(start, width) : ""));
+        const double value = LeadingNumber(start < code.size() ? code.substr(start, width) : "");
+        const double greatest = std::pow(10.0, static_cast<double>(width)) - 1;
+        if (!(value >= 0)) return 0;
+        return static_cast<int>(std::min(value, greatest));
     };
     r.RoutineId = field(0, 3);
     r.VariantNumber = field(3, 3);

@@ -3,6 +3,8 @@
 #include "core/collection.h"
 #include "core/composition.h"
 #include "core_fakes.h"
+#include "generators/generator_contract.h"
+#include "mathservices/utf8_text.h"
 
 namespace {
 // A clock value after which the first draw times 900 reaches 899.
@@ -199,6 +201,30 @@ TEST(Creation, RegToVarReadsLinesAndRefusesBadLengths) {
     EXPECT_EQ(bench.app.ProblemCount(), 0);
     REG_To_Var(bench.app, "");
     EXPECT_EQ(bench.app.ProblemCount(), 0);
+}
+
+TEST(Creation, RegToVarKeepsDamagedColumnsInsideTheirDigits) {
+    // Signs, points and junk in the code columns of a damaged file: every field stays
+    // within what its columns can hold, and the code written back is 16 digits again.
+    TestBench bench;
+    const std::string module = Utf8PadRight("KVOL_MATH_PES", 80);
+    REG_To_Var(bench.app, module + "001002-73*990101" + "0005\r\n" + module + "-1.5009e99-9-912" + "0006\r\n");
+    ASSERT_EQ(bench.app.ProblemCount(), 2);
+    const ProblemRecord& a = bench.app.Problems[1];
+    EXPECT_EQ(a.RoutineId, 1);
+    EXPECT_EQ(a.VariantNumber, 2);
+    EXPECT_EQ(a.Seed, 0);
+    EXPECT_EQ(a.ItemCount, 99);
+    EXPECT_EQ(a.GroupSize, 1);
+    EXPECT_EQ(a.GroupIndex, 1);
+    const ProblemRecord& b = bench.app.Problems[2];
+    EXPECT_EQ(b.RoutineId, 0);
+    EXPECT_EQ(b.VariantNumber, 500);
+    EXPECT_EQ(b.Seed, 9);
+    EXPECT_EQ(b.ItemCount, 0);
+    EXPECT_EQ(b.GroupSize, 0);
+    EXPECT_EQ(b.GroupIndex, 12);
+    for (int i = 1; i <= 2; ++i) EXPECT_TRUE(IsProblemCode(ProblemCodeOf(bench.app.Problems[i]))) << i;
 }
 
 TEST(Creation, NewCollectionCommandRunsTheWizardAndCreates) {

@@ -24,10 +24,15 @@ fi
 
 build="$root/build-fuzz"
 export CCACHE_BASEDIR="$root"
-if [ ! -f "$build/build.ninja" ]; then
-  CC=clang CXX=clang++ cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DSUMFORGE_FUZZ=ON >/dev/null
-fi
-cmake --build "$build" -j2 --target "fuzz_$name"
+mkdir -p "$build"
+# Two targets may be started at once (one a core): one build at a time in the shared tree.
+(
+  flock 9
+  if [ ! -f "$build/build.ninja" ]; then
+    CC=clang CXX=clang++ cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DSUMFORGE_FUZZ=ON >/dev/null
+  fi
+  cmake --build "$build" -j2 --target "fuzz_$name"
+) 9>"$build/.build-lock"
 
 corpus="$build/corpus/$name"
 artifacts="$build/artifacts/$name"

@@ -19,13 +19,33 @@ inline const ColumnMarks kSolutionColumns3 = {"&SP=10:", "&SP=40:", "&SP=70:"};
 inline const ColumnMarks kSolutionColumns2 = {"&SP=10:", "&SP=50:"};
 inline const ColumnMarks kSolutionColumns1 = {"&SP=10:"};
 
+// How the items are written: what follows the bold letter of a statement item, what
+// closes the item, what ends a row (of statement and solution alike), and what follows
+// the last row of the statement.
+struct ItemLook {
+    std::string afterLetter;
+    std::string afterItem;
+    std::string rowEnd;
+    std::string statementEnd;
+};
+// Statement items in italics, a blank line after the statement.
+inline const ItemLook kItalicItems = {")&-B&+I ", "&-I", "&LF", "&LF"};
+// Upright statement items, for drills whose items carry their own italics.
+inline const ItemLook kUprightItems = {")&-B ", "", "&LF", "&LF"};
+
+// The statement and the solution text of one item.
+struct ItemTexts {
+    std::string statement;
+    std::string solution;
+};
+
 // ItemCount clipped into 1 to maxAmount (26 letters at most).
 int DrillItemCount(const GeneratorWorkspace& ws, int maxAmount = 26);
 
 class ItemDrill {
 public:
     ItemDrill(GeneratorWorkspace& ws, ColumnMarks statementColumns, ColumnMarks solutionColumns,
-              int maxAmount = 26);
+              int maxAmount = 26, ItemLook look = kItalicItems);
 
     int Count() const { return count_; }
     // True when an earlier item of this problem has this very statement text.
@@ -33,15 +53,15 @@ public:
     // Remembers the next item and appends its solution, with its column mark and letter.
     void AddItem(const std::string& statementText, const std::string& solutionText);
     // Draws the head line among the wordings (one range draw), then writes the items of
-    // the statement and the blank line after them.
+    // the statement and what ends it.
     void WriteStatement(const std::vector<std::string>& headLines);
-    const std::vector<std::string>& Items() const { return items_; }
 
 private:
     GeneratorWorkspace& ws_;
     ColumnMarks statementColumns_;
     ColumnMarks solutionColumns_;
     int count_;
+    ItemLook look_;
     std::vector<std::string> items_;
 };
 

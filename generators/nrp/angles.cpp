@@ -22,7 +22,7 @@ constexpr double kStraightAngle = 648000;  // 180° in seconds
 
 // The shared body of the four angle drills: one operation for all items.
 void AngleDrill(GeneratorWorkspace& ws, int operation) {
-    ItemDrill drill(ws, kAngleStatementColumns, kAngleSolutionColumns, 27);
+    ItemDrill drill(ws, kAngleStatementColumns, kAngleSolutionColumns, 27, kUprightItems);
     for (int i = 1; i <= drill.Count(); ++i) {
         RetryBound bound;
         while (true) {
@@ -35,7 +35,7 @@ void AngleDrill(GeneratorWorkspace& ws, int operation) {
             bound.Next();
         }
     }
-    WriteDrillItems(ws, drill.Items(), kAngleHeads, kAngleStatementColumns, ")&-B ", "");
+    drill.WriteStatement(kAngleHeads);
 }
 } // namespace
 
@@ -121,7 +121,7 @@ void ComplementaryAndSupplementaryAngles(GeneratorWorkspace& ws) {
     }
     const ColumnMarks statementColumns = {"&SP=5:", "&SP=29:", "&SP=53:", "&SP=76:"};
     const ColumnMarks solutionColumns = {"&SP=10:", "&SP=39:", "&SP=68:"};
-    ItemDrill drill(ws, statementColumns, solutionColumns, 27);
+    ItemDrill drill(ws, statementColumns, solutionColumns, 27, kUprightItems);
     for (int i = 1; i <= drill.Count(); ++i) {
         RetryBound bound;
         while (true) {
@@ -135,9 +135,7 @@ void ComplementaryAndSupplementaryAngles(GeneratorWorkspace& ws) {
             bound.Next();
         }
     }
-    WriteDrillItems(ws, drill.Items(),
-                    {"Calculate the complementary and supplementary angle of the following angles:&LF"},
-                    statementColumns, ")&-B ", "");
+    drill.WriteStatement({"Calculate the complementary and supplementary angle of the following angles:&LF"});
 }
 
 // The figures of routine 32, by Seed modulo 5:

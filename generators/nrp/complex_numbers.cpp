@@ -21,7 +21,7 @@ const std::vector<std::string> kComplexHeads = {
     "Calculate the following expressions with complex numbers.&LF", "Calculate the following expressions.&LF",
     "Calculate these expressions involving complex numbers.&LF", "Calculate these expressions.&LF"};
 // Complex items are not in italics; the imaginary unit carries its own.
-const std::string kComplexAfterLetter = ")&-B  ";
+const ItemLook kComplexItems = {")&-B  ", "", "&LF", "&LF"};
 
 // A complex number whose parts are fractions, each part reduced and written stacked.
 std::string ComplexFractionText(GeneratorWorkspace& ws, double reN, double reD, double imN, double imD) {
@@ -93,7 +93,7 @@ void AddingAndSubtractingComplexNumbers(GeneratorWorkspace& ws) {
                       "Exercises to calculate additions and subtractions of complex numbers in cartesian form (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27);
+    ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27, kComplexItems);
     for (int i = 1; i <= drill.Count(); ++i) {
         const bool fractions = Coin(ws, 0.7f);
         const double operation = RandomInRange(ws, 1, 2, 1, 1);
@@ -123,7 +123,7 @@ void AddingAndSubtractingComplexNumbers(GeneratorWorkspace& ws) {
             bound.Next();
         }
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns2, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // Routine 34: products, and quotients as a stacked fraction; about four quotients in ten
@@ -135,7 +135,7 @@ void MultiplyingAndDividingComplexNumbers(GeneratorWorkspace& ws) {
                       "Exercises to calculate multiplications and divisions of complex numbers in cartesian form (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27);
+    ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
@@ -166,7 +166,7 @@ void MultiplyingAndDividingComplexNumbers(GeneratorWorkspace& ws) {
             bound.Next();
         }
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns2, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 namespace {
@@ -202,7 +202,7 @@ void CartesianPolarConversions(GeneratorWorkspace& ws) {
                       "Exercises to convert complex numbers from the cartesian form to the polar form and vice versa (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27);
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27, kComplexItems);
     double direction = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         if (!Coin(ws, 0.8f)) direction = direction == 1 ? 2 : 1;
@@ -236,7 +236,7 @@ void CartesianPolarConversions(GeneratorWorkspace& ws) {
             bound.Next();
         }
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns4, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // Routine 36: products and quotients of complex numbers in polar form; a quotient is
@@ -248,7 +248,7 @@ void MultiplyingAndDividingComplexNumbersInPolarForm(GeneratorWorkspace& ws) {
                       "Exercises to calculate multiplications and divisions of complex numbers in polar form (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns2, kSolutionColumns2, 27);
+    ItemDrill drill(ws, kStatementColumns2, kSolutionColumns2, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
@@ -271,7 +271,7 @@ void MultiplyingAndDividingComplexNumbersInPolarForm(GeneratorWorkspace& ws) {
             bound.Next();
         }
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns2, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // Routine 37: a power 2 to 5 of a complex number given in cartesian or polar form; the
@@ -282,7 +282,7 @@ void PowersOfComplexNumbers(GeneratorWorkspace& ws) {
                       "Exercises of powers of complex numbers in cartesian and polar forms (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27);
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
@@ -312,7 +312,7 @@ void PowersOfComplexNumbers(GeneratorWorkspace& ws) {
             bound.Next();
         }
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns4, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // Routine 38: the n-th roots (n from 2 to 5) of a complex number given in cartesian or
@@ -323,7 +323,7 @@ void RootsOfComplexNumbers(GeneratorWorkspace& ws) {
                       "Exercises to calculate roots of complex numbers (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns1, 27);
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns1, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
@@ -362,7 +362,7 @@ void RootsOfComplexNumbers(GeneratorWorkspace& ws) {
             break;
         }
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns4, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // The five problems of routine 39 (k the parameter, z = a + b·i, w = c + d·i):

@@ -97,7 +97,7 @@ void AdditionAndSubtractionOfSquareRoots(GeneratorWorkspace& ws) {
                       "Exercises to calculate addition and subtraction of square roots (3 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4);
+    ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double form = RandomInRange(ws, 1, 3, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         form += 1;
@@ -193,7 +193,7 @@ void SimplifyingNthRoots(GeneratorWorkspace& ws) {
                       "Exercises to simplify n-th roots (6 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4);
+    ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = NextType(ws, type, 6, 0.7f);
@@ -249,8 +249,9 @@ void SimplifyingPowersOfNaturalNumbers(GeneratorWorkspace& ws) {
                       "Exercises to simplify powers of natural numbers (7 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4,
-                     {"&SP=10:", "&SP=20:", "&SP=30:", "&SP=40:", "&SP=50:", "&SP=60:", "&SP=70:", "&SP=80:"});
+    ItemDrill drill(ws, kPowerStatementColumns4,
+                    {"&SP=10:", "&SP=20:", "&SP=30:", "&SP=40:", "&SP=50:", "&SP=60:", "&SP=70:", "&SP=80:"}, 26,
+                    kPowerItems);
     double type = RandomInRange(ws, 1, 7, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = NextType(ws, type, 7, 0.7f);
@@ -325,8 +326,8 @@ void SimplifyingPowersOfRationalNumbers(GeneratorWorkspace& ws) {
                       "Exercises to simplify powers of rational numbers (7 types)"});
         return;
     }
-    PowerDrill drill(ws, {"&SP=5:", "&SP=37:", "&SP=69:"},
-                     {"&SP=10:", "&SP=24:", "&SP=38:", "&SP=52:", "&SP=66:", "&SP=80:"}, 12);
+    ItemDrill drill(ws, {"&SP=5:", "&SP=37:", "&SP=69:"},
+                    {"&SP=10:", "&SP=24:", "&SP=38:", "&SP=52:", "&SP=66:", "&SP=80:"}, 12, kPowerItems);
     double type = RandomInRange(ws, 1, 7, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = NextType(ws, type, 7, 0.7f);

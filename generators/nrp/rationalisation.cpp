@@ -83,7 +83,7 @@ void RationalizationWithSquareRoots(GeneratorWorkspace& ws) {
                       "Exercises to rationalize expressions involving square roots (5 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4);
+    ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type += 1;
@@ -143,7 +143,7 @@ void RationalizationWithNthRoots(GeneratorWorkspace& ws) {
                       "Exercises to rationalize expressions involving n-th roots (2 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4);
+    ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double type = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         // The types alternate, with a chance of a repeat; both coins are always drawn.

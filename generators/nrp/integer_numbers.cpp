@@ -1,16 +1,13 @@
 #include <cmath>
 
 #include "generators/item_drill.h"
+#include "generators/nrp/drill_numbers.h"
 #include "generators/nrp/nrp_routines.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
 
 namespace {
-const std::vector<std::string> kIntegerHeadLines = {
-    "Calculate the following expressions involving integer numbers.&LF", "Calculate the following expressions.&LF",
-    "Calculate these expressions involving integer numbers.&LF", "Calculate these expressions.&LF"};
-
 // A number of the statement: below 0 it stands in parentheses.
 std::string Term(double x) {
     const std::string text = PlainNumberText(x);
@@ -78,7 +75,7 @@ void AdditionAndSubtractionOfIntegerNumbers(GeneratorWorkspace& ws) {
         }
         drill.AddItem(text, PlainNumberText(value));
     }
-    drill.WriteStatement(kIntegerHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("integer numbers"));
 }
 
 // Routine 11: products and quotients of integers, with sums inside parentheses and
@@ -210,5 +207,5 @@ void MultiplicationAndDivisionOfIntegerNumbers(GeneratorWorkspace& ws) {
         }
         drill.AddItem(text, PlainNumberText(value));
     }
-    drill.WriteStatement(kIntegerHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("integer numbers"));
 }

@@ -1,5 +1,6 @@
 #include "generators/item_drill.h"
 #include "generators/nrp/drill_items.h"
+#include "generators/nrp/drill_numbers.h"
 #include "generators/nrp/nrp_routines.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
@@ -25,12 +26,8 @@ void AdditionAndSubtractionOfNaturalNumbers(GeneratorWorkspace& ws) {
         while (true) {
             double a = RandomInRange(ws, 100000, 999999, 1, 1);
             double b = RandomInRange(ws, 100000, 999999, 1, 1);
-            for (int coin = 0; coin < 3; ++coin) {
-                if (Coin(ws, 0.6f)) b = Int(b / 10);
-            }
-            for (int coin = 0; coin < 3; ++coin) {
-                if (Coin(ws, 0.6f)) a = Int(a / 10);
-            }
+            b = DropDigits(ws, b, 3);
+            a = DropDigits(ws, a, 3);
             if (operation == 2) b = a + b;
             const std::string aText = GroupDigits(PlainNumberText(a));
             const std::string bText = GroupDigits(PlainNumberText(b));
@@ -41,17 +38,8 @@ void AdditionAndSubtractionOfNaturalNumbers(GeneratorWorkspace& ws) {
         }
         drill.AddItem(text, GroupDigits(PlainNumberText(result)));
     }
-    drill.WriteStatement({"Calculate the following expressions involving natural numbers.&LF",
-                          "Calculate the following expressions.&LF",
-                          "Calculate these expressions involving natural numbers.&LF",
-                          "Calculate these expressions.&LF"});
+    drill.WriteStatement(ExpressionHeadLines("natural numbers"));
 }
-
-namespace {
-const std::vector<std::string> kNaturalHeadLines = {
-    "Calculate the following expressions involving natural numbers.&LF", "Calculate the following expressions.&LF",
-    "Calculate these expressions involving natural numbers.&LF", "Calculate these expressions.&LF"};
-} // namespace
 
 // Routine 13: products of a number of three to five digits by one of two to four digits.
 void MultiplicationOfNaturalNumbers(GeneratorWorkspace& ws) {
@@ -69,10 +57,8 @@ void MultiplicationOfNaturalNumbers(GeneratorWorkspace& ws) {
             double a = RandomInRange(ws, 10000, 99999, 1, 1);
             double b = RandomInRange(ws, 1000, 9999, 1, 1);
             // Two coins shorten each number by a digit; the last one puts the shorter first.
-            if (Coin(ws, 0.6f)) a = Int(a / 10);
-            if (Coin(ws, 0.6f)) a = Int(a / 10);
-            if (Coin(ws, 0.6f)) b = Int(b / 10);
-            if (Coin(ws, 0.6f)) b = Int(b / 10);
+            a = DropDigits(ws, a, 2);
+            b = DropDigits(ws, b, 2);
             const bool shorterFirst = Coin(ws, 0.5f);
             const std::string aText = GroupDigits(PlainNumberText(a));
             const std::string bText = GroupDigits(PlainNumberText(b));
@@ -83,7 +69,7 @@ void MultiplicationOfNaturalNumbers(GeneratorWorkspace& ws) {
         }
         drill.AddItem(text, GroupDigits(PlainNumberText(product)));
     }
-    drill.WriteStatement(kNaturalHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("natural numbers"));
 }
 
 // Routine 1: long division of a number of four to six digits by one of two or three
@@ -103,9 +89,8 @@ void DivisionOfNaturalNumbers(GeneratorWorkspace& ws) {
         while (true) {
             double a = RandomInRange(ws, 100000, 999999, 1, 1);
             double b = RandomInRange(ws, 100, 999, 1, 1);
-            if (Coin(ws, 0.6f)) b = Int(b / 10);
-            if (Coin(ws, 0.6f)) a = Int(a / 10);
-            if (Coin(ws, 0.6f)) a = Int(a / 10);
+            b = DropDigits(ws, b, 1);
+            a = DropDigits(ws, a, 2);
             q = Int(a / b);
             r = a - q * b;
             text = GroupDigits(PlainNumberText(a)) + " : " + GroupDigits(PlainNumberText(b));
@@ -115,7 +100,7 @@ void DivisionOfNaturalNumbers(GeneratorWorkspace& ws) {
         drill.AddItem(text,
                       "&+I q = " + GroupDigits(PlainNumberText(q)) + ",  r = &-I" + GroupDigits(PlainNumberText(r)));
     }
-    drill.WriteStatement(kNaturalHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("natural numbers"));
 }
 
 namespace {

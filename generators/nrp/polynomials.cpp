@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "generators/item_drill.h"
+#include "generators/nrp/drill_numbers.h"
 #include "generators/nrp/algebra_items.h"
 #include "generators/nrp/nrp_routines.h"
 #include "generators/nrp/polynomial_tools.h"
@@ -12,10 +13,6 @@
 #include "mathservices/poly_markup.h"
 
 namespace {
-const std::vector<std::string> kPolynomialHeads = {
-    "Calculate the following expressions involving polynomials.&LF", "Calculate the following expressions.&LF",
-    "Calculate these expressions involving polynomials.&LF", "Calculate these expressions.&LF"};
-
 // The alternation of two operations of the drills: one step on, and a small chance of
 // going back (both coins always drawn).
 void NextOperation(GeneratorWorkspace& ws, double& operation) {
@@ -76,7 +73,7 @@ void AdditionAndSubtractionOfPolynomials(GeneratorWorkspace& ws) {
             bound.Next();
         }
     }
-    drill.WriteStatement(kPolynomialHeads);
+    drill.WriteStatement(ExpressionHeadLines("polynomials"));
 }
 
 // The four forms of routine 17:
@@ -150,7 +147,7 @@ void MultiplicationAndPowerOfBinomials(GeneratorWorkspace& ws) {
             bound.Next();
         }
     }
-    drill.WriteStatement(kPolynomialHeads);
+    drill.WriteStatement(ExpressionHeadLines("polynomials"));
 }
 
 FactoringItem MakeFactoringItem(GeneratorWorkspace& ws) {

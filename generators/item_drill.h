@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "generators/generator_contract.h"
+#include "mathservices/faults.h"
 
 // The lettered items of a drill (kind "2"): the item count, the column marks, the
 // solution written item by item, the head line drawn after the loop, and the statement.
@@ -52,6 +53,20 @@ public:
     bool IsRepeat(const std::string& statementText) const;
     // Remembers the next item and appends its solution, with its column mark and letter.
     void AddItem(const std::string& statementText, const std::string& solutionText);
+    // Calls draw() until it gives an item whose statement is neither empty (a refused
+    // draw) nor a repeat of an earlier one, and adds that item.
+    template <typename Draw>
+    void AddNewItem(Draw draw) {
+        RetryBound bound;
+        while (true) {
+            const ItemTexts item = draw();
+            if (!item.statement.empty() && !IsRepeat(item.statement)) {
+                AddItem(item.statement, item.solution);
+                return;
+            }
+            bound.Next();
+        }
+    }
     // Draws the head line among the wordings (one range draw), then writes the items of
     // the statement and what ends it.
     void WriteStatement(const std::vector<std::string>& headLines);

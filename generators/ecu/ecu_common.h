@@ -4,7 +4,6 @@
 
 #include "generators/generator_contract.h"
 #include "generators/item_drill.h"
-#include "mathservices/faults.h"
 
 // Small pieces that the equation drills share.
 
@@ -30,14 +29,10 @@ void EquationDrill(GeneratorWorkspace& ws, MakeItem make, int maxAmount, const C
                    const ColumnMarks& solutionColumns, const std::vector<std::string>& headLines) {
     ItemDrill drill(ws, statementColumns, solutionColumns, maxAmount);
     for (int i = 1; i <= drill.Count(); ++i) {
-        decltype(make(ws)) item;
-        RetryBound bound;
-        while (true) {
-            item = make(ws);
-            if (!drill.IsRepeat(item.text)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.text, item.answer);
+        drill.AddNewItem([&] {
+            const auto item = make(ws);
+            return ItemTexts{item.text, item.answer};
+        });
     }
     drill.WriteStatement(headLines);
 }

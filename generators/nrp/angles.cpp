@@ -24,16 +24,10 @@ constexpr double kStraightAngle = 648000;  // 180° in seconds
 void AngleDrill(GeneratorWorkspace& ws, int operation) {
     ItemDrill drill(ws, kAngleStatementColumns, kAngleSolutionColumns, 27, kUprightItems);
     for (int i = 1; i <= drill.Count(); ++i) {
-        RetryBound bound;
-        while (true) {
+        drill.AddNewItem([&] {
             const AngleItem item = MakeAngleItem(ws, operation);
-            const std::string text = AngleItemText(item, operation);
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, SecondsToDegreeMarkup(item.result));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{AngleItemText(item, operation), SecondsToDegreeMarkup(item.result)};
+        });
     }
     drill.WriteStatement(kAngleHeads);
 }
@@ -123,17 +117,11 @@ void ComplementaryAndSupplementaryAngles(GeneratorWorkspace& ws) {
     const ColumnMarks solutionColumns = {"&SP=10:", "&SP=39:", "&SP=68:"};
     ItemDrill drill(ws, statementColumns, solutionColumns, 27, kUprightItems);
     for (int i = 1; i <= drill.Count(); ++i) {
-        RetryBound bound;
-        while (true) {
+        drill.AddNewItem([&] {
             const double angle = RandomInRange(ws, 2000, 300000, 1, 1);
-            const std::string text = SecondsToDegreeMarkup(angle);
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, SecondsToDegreeMarkup(kRightAngle - angle) + ",  " +
-                                        SecondsToDegreeMarkup(kStraightAngle - angle));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{SecondsToDegreeMarkup(angle), SecondsToDegreeMarkup(kRightAngle - angle) + ",  " +
+                                                               SecondsToDegreeMarkup(kStraightAngle - angle)};
+        });
     }
     drill.WriteStatement({"Calculate the complementary and supplementary angle of the following angles:&LF"});
 }

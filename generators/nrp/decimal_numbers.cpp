@@ -2,7 +2,6 @@
 #include "generators/nrp/drill_numbers.h"
 #include "generators/nrp/nrp_routines.h"
 #include "mathservices/arithmetic.h"
-#include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
 
 namespace {
@@ -28,10 +27,7 @@ void AdditionAndSubtractionOfDecimalNumbers(GeneratorWorkspace& ws) {
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         operation = NextAddOrSubtract(ws, operation);
-        std::string text;
-        double result = 0;
-        RetryBound bound;
-        while (true) {
+        drill.AddNewItem([&] {
             double a = RandomInRange(ws, 100000, 999999, 1, 1);
             double b = RandomInRange(ws, 100000, 999999, 1, 1);
             a = DropDigits(ws, a, 3);
@@ -50,13 +46,11 @@ void AdditionAndSubtractionOfDecimalNumbers(GeneratorWorkspace& ws) {
                     std::swap(a, b);
                 }
             }
-            text = NumberToMarkup(b) + (operation == 1 ? " + " : " - ") + NumberToMarkup(a);
-            result = RoundAtPosition(ws, operation == 1 ? b + a : b - a, -6);
-            const bool refused = a == b || (!HasDecimals(a) && !HasDecimals(b));
-            if (!refused && !drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, NumberToMarkup(result));
+            const double result = RoundAtPosition(ws, operation == 1 ? b + a : b - a, -6);
+            if (a == b || (!HasDecimals(a) && !HasDecimals(b))) return ItemTexts{};
+            return ItemTexts{NumberToMarkup(b) + (operation == 1 ? " + " : " - ") + NumberToMarkup(a),
+                             NumberToMarkup(result)};
+        });
     }
     drill.WriteStatement(ExpressionHeadLines("decimal numbers"));
 }
@@ -70,10 +64,7 @@ void MultiplicationOfDecimalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     for (int i = 1; i <= drill.Count(); ++i) {
-        std::string text;
-        double product = 0;
-        RetryBound bound;
-        while (true) {
+        drill.AddNewItem([&] {
             double a = EndInDigit(ws, RandomInRange(ws, 1000, 9999, 1, 1));
             double b = EndInDigit(ws, RandomInRange(ws, 1000, 9999, 1, 1));
             a = ShiftDecimalPoint(ws, a, 2);
@@ -84,12 +75,9 @@ void MultiplicationOfDecimalNumbers(GeneratorWorkspace& ws) {
             } else {
                 b = RoundAtPosition(ws, b / 10, -6);
             }
-            text = NumberToMarkup(a) + " × " + NumberToMarkup(b);
-            product = RoundAtPosition(ws, a * b, -9);
-            if (!drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, NumberToMarkup(product));
+            const double product = RoundAtPosition(ws, a * b, -9);
+            return ItemTexts{NumberToMarkup(a) + " × " + NumberToMarkup(b), NumberToMarkup(product)};
+        });
     }
     drill.WriteStatement(ExpressionHeadLines("decimal numbers"));
 }
@@ -104,12 +92,9 @@ void DivisionOfDecimalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     for (int i = 1; i <= drill.Count(); ++i) {
-        std::string text;
-        double quotient = 0;
-        RetryBound bound;
-        while (true) {
+        drill.AddNewItem([&] {
             double divisor = RandomInRange(ws, 1000, 9999, 1, 1);
-            quotient = RandomInRange(ws, 1000, 9999, 1, 1);
+            double quotient = RandomInRange(ws, 1000, 9999, 1, 1);
             // The divisor loses up to two digits, then both end in a digit that is not 0.
             divisor = DropDigits(ws, divisor, 2);
             divisor = EndInDigit(ws, divisor);
@@ -118,11 +103,8 @@ void DivisionOfDecimalNumbers(GeneratorWorkspace& ws) {
             quotient = ShiftDecimalPoint(ws, quotient, 2);
             if (!HasDecimals(divisor) && !HasDecimals(quotient)) quotient = RoundAtPosition(ws, quotient / 10, -6);
             const double dividend = RoundAtPosition(ws, divisor * quotient, -9);
-            text = NumberToMarkup(dividend) + " : " + NumberToMarkup(divisor);
-            if (!drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, NumberToMarkup(quotient));
+            return ItemTexts{NumberToMarkup(dividend) + " : " + NumberToMarkup(divisor), NumberToMarkup(quotient)};
+        });
     }
     drill.WriteStatement(ExpressionHeadLines("decimal numbers"));
 }

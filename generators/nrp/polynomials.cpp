@@ -61,17 +61,13 @@ void AdditionAndSubtractionOfPolynomials(GeneratorWorkspace& ws) {
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextOperation(ws, operation);
-        RetryBound bound;
-        while (true) {
+        drill.AddNewItem([&] {
             const PolynomialSumItem item = MakePolynomialSumItem(ws, operation);
             const std::string text = "( " + PolyText(ws, item.a) + (operation == 1 ? " )  +  ( " : " )  -  ( ") +
                                      PolyText(ws, item.b) + " )";
-            if (!IsZeroPoly(item.result) && !drill.IsRepeat(text)) {
-                drill.AddItem(text, PolyText(ws, item.result));
-                break;
-            }
-            bound.Next();
-        }
+            if (IsZeroPoly(item.result)) return ItemTexts{};
+            return ItemTexts{text, PolyText(ws, item.result)};
+        });
     }
     drill.WriteStatement(ExpressionHeadLines("polynomials"));
 }
@@ -133,19 +129,14 @@ void MultiplicationAndPowerOfBinomials(GeneratorWorkspace& ws) {
         form += 1;
         if (form > 4) form = 1;
         if (Coin(ws, 0.9f)) form = form == 4 ? 1 : form + 1;
-        RetryBound bound;
-        while (true) {
+        drill.AddNewItem([&] {
             const BinomialProductItem item = MakeBinomialProductItem(ws, static_cast<int>(form));
             std::string text;
             if (item.form == 2) text = ParenthesisedText(ws, item.a) + "^2";
             else if (item.form == 4) text = ParenthesisedText(ws, item.a) + "^3";
             else text = ParenthesisedText(ws, item.a) + ParenthesisedText(ws, item.b);
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, PolyText(ws, item.result));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{text, PolyText(ws, item.result)};
+        });
     }
     drill.WriteStatement(ExpressionHeadLines("polynomials"));
 }
@@ -194,16 +185,11 @@ void FactoringPolynomials(GeneratorWorkspace& ws) {
     ItemDrill drill(ws, kStatementColumns1, kSolutionColumns1);
     const double form = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
-        RetryBound bound;
-        while (true) {
+        drill.AddNewItem([&] {
             const FactoringItem item = MakeFactoringItem(ws);
             const std::string text = PolyWorkToMarkup(ws.polyWork, "&+Ix&-I");
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, FactoredText(item));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{text, FactoredText(item)};
+        });
     }
     const std::vector<std::string> heads = {"Factorize these polynomials:&LF",
                                             "Factorize the following polynomials:&LF"};
@@ -253,17 +239,12 @@ void DivisionOfPolynomials(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = type == 1 ? 2 : 1;
-        RetryBound bound;
-        while (true) {
+        drill.AddNewItem([&] {
             const DivisionItem item = MakeDivisionItem(ws, static_cast<int>(type));
             const std::string text = "( " + PolyText(ws, item.dividend) + " ) : ( " + PolyText(ws, item.divisor) + " )";
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, " &+Iq&-I = " + PolyText(ws, item.quotient) + ",  &+Ir&-I = " +
-                                        PolyText(ws, item.remainder));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{text, " &+Iq&-I = " + PolyText(ws, item.quotient) + ",  &+Ir&-I = " +
+                                       PolyText(ws, item.remainder)};
+        });
     }
     drill.WriteStatement({"Calculate the quotient and the remainder of the following divisions:&LF",
                           "Calculate quotient and remainder of these divisions:&LF",

@@ -4,7 +4,6 @@
 #include "generators/nrp/nrp_routines.h"
 #include "generators/nrp/power_drill.h"
 #include "mathservices/arithmetic.h"
-#include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
 
 namespace {
@@ -89,14 +88,7 @@ void RationalizationWithSquareRoots(GeneratorWorkspace& ws) {
         type += 1;
         if (type > 6) type = 1;
         if (Coin(ws, 0.8f)) type = RandomInRange(ws, 1, 6, 1, 1);
-        ItemTexts item;
-        RetryBound bound;
-        while (true) {
-            item = DrawSquareRootRationalisation(ws, static_cast<int>(type));
-            if (!item.statement.empty() && !drill.IsRepeat(item.statement)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.statement, item.solution);
+        drill.AddNewItem([&] { return DrawSquareRootRationalisation(ws, static_cast<int>(type)); });
     }
     drill.WriteStatement({"Rationalize the following expressions:&LF"});
 }
@@ -152,14 +144,7 @@ void RationalizationWithNthRoots(GeneratorWorkspace& ws) {
         if (type == 1 && toSecond) type = 2;
         const bool toFirst = Coin(ws, 0.8f);
         if (type == 2 && toFirst) type = 1;
-        ItemTexts item;
-        RetryBound bound;
-        while (true) {
-            item = DrawNthRootRationalisation(ws, static_cast<int>(type));
-            if (!item.statement.empty() && !drill.IsRepeat(item.statement)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.statement, item.solution);
+        drill.AddNewItem([&] { return DrawNthRootRationalisation(ws, static_cast<int>(type)); });
     }
     drill.WriteStatement({"Rationalize the following expressions:&LF"});
 }

@@ -53,20 +53,6 @@ public:
     bool IsRepeat(const std::string& statementText) const;
     // Remembers the next item and appends its solution, with its column mark and letter.
     void AddItem(const std::string& statementText, const std::string& solutionText);
-    // Calls draw() until it gives an item whose statement is neither empty (a refused
-    // draw) nor a repeat of an earlier one, and adds that item.
-    template <typename Draw>
-    void AddNewItem(Draw draw) {
-        RetryBound bound;
-        while (true) {
-            const ItemTexts item = draw();
-            if (!item.statement.empty() && !IsRepeat(item.statement)) {
-                AddItem(item.statement, item.solution);
-                return;
-            }
-            bound.Next();
-        }
-    }
     // Draws the head line among the wordings (one range draw), then writes the items of
     // the statement and what ends it.
     void WriteStatement(const std::vector<std::string>& headLines);
@@ -79,6 +65,22 @@ private:
     ItemLook look_;
     std::vector<std::string> items_;
 };
+
+// Calls draw() until it gives an item whose statement is neither empty (a refused draw)
+// nor a repeat of an earlier item of the list, and adds that item to the list (an
+// ItemDrill, or any list with IsRepeat and AddItem).
+template <typename List, typename Draw>
+void AddNewItem(List& list, Draw draw) {
+    RetryBound bound;
+    while (true) {
+        const auto item = draw();
+        if (!item.statement.empty() && !list.IsRepeat(item.statement)) {
+            list.AddItem(item.statement, item.solution);
+            return;
+        }
+        bound.Next();
+    }
+}
 
 // The operation of the next item of an addition and subtraction drill (1 addition, 2
 // subtraction): the operations alternate, and two coins, both always drawn, give a small

@@ -29,7 +29,7 @@ void EquationDrill(GeneratorWorkspace& ws, MakeItem make, int maxAmount, const C
                    const ColumnMarks& solutionColumns, const std::vector<std::string>& headLines) {
     ItemDrill drill(ws, statementColumns, solutionColumns, maxAmount);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const auto item = make(ws);
             return ItemTexts{item.text, item.answer};
         });

@@ -164,7 +164,7 @@ void LinearDrill(GeneratorWorkspace& ws, bool rational, bool inequation, int max
                  const ColumnMarks& statementColumns, const ColumnMarks& solutionColumns) {
     ItemDrill drill(ws, statementColumns, solutionColumns, maxAmount);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const std::string relation = inequation ? DrawRelation(ws) : "=";
             const LinearItem item = rational ? RationalLinearItem(ws, relation) : IntegerLinearItem(ws, relation);
             return ItemTexts{item.text, LinearAnswer(ws, item)};

@@ -166,7 +166,7 @@ void TangentAndNormalLines(GeneratorWorkspace& ws) {
     int type = static_cast<int>(RandomInRange(ws, 1, kTangentTypes, 1, 1));
     for (int i = 1; i <= drill.Count(); ++i) {
         type = type == kTangentTypes ? 1 : type + 1;
-        drill.AddNewItem([&] { return MakeTangentItem(ws, type); });
+        AddNewItem(drill, [&] { return MakeTangentItem(ws, type); });
     }
     drill.WriteStatement({"Calculate the tangent and normal lines to the following curves at the given points:&LF"});
 }
@@ -180,7 +180,7 @@ void MaximumsAndMinimums(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns2, kSolutionColumns1, 21);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             // Mostly cubics; about one in three a quartic.
             const int type = Coin(ws, 0.7f) ? 2 : 1;
             return MakeExtremaItem(ws, type);

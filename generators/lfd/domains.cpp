@@ -127,7 +127,7 @@ void DomainOfAFunction(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         type = type == kDomainTypes ? 1 : type + 1;
         if (Coin(ws, 0.8f)) type = static_cast<int>(RandomInRange(ws, 1, kDomainTypes, 1, 1));
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const DomainItem item = MakeDomainItem(ws, type);
             return ItemTexts{"&+If&-I (&+Ix&-I) = " + item.function, item.domain};
         });

@@ -162,7 +162,7 @@ void SimplifyingAlgebraicFractions(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextType(ws, type, 6);
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const std::vector<double> r = DistinctRoots(ws, 3);
             const double p = r[0], q = r[1], s = r[2];
             const double k = RandomInRange(ws, 1, 6, 1, 1) * (Coin(ws, 0.5f) ? -1 : 1);
@@ -214,7 +214,7 @@ void AlgebraicFractionsProducts(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 10, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextType(ws, type, 10);
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const std::vector<double> r = DistinctRoots(ws, 4);
             const double p = r[0], q = r[1], s = r[2], t = r[3];
             const double k = RandomInRange(ws, 2, 9, 1, 1) * (Coin(ws, 0.5f) ? -1 : 1);
@@ -297,7 +297,7 @@ void AlgebraicFractionsSums(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextType(ws, type, 6);
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const std::vector<double> r = DistinctRoots(ws, 2);
             const double p = r[0], q = r[1];
             const double a = RandomInRange(ws, 1, 9, 1, 1);

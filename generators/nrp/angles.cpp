@@ -24,7 +24,7 @@ constexpr double kStraightAngle = 648000;  // 180° in seconds
 void AngleDrill(GeneratorWorkspace& ws, int operation) {
     ItemDrill drill(ws, kAngleStatementColumns, kAngleSolutionColumns, 27, kUprightItems);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const AngleItem item = MakeAngleItem(ws, operation);
             return ItemTexts{AngleItemText(item, operation), SecondsToDegreeMarkup(item.result)};
         });
@@ -117,7 +117,7 @@ void ComplementaryAndSupplementaryAngles(GeneratorWorkspace& ws) {
     const ColumnMarks solutionColumns = {"&SP=10:", "&SP=39:", "&SP=68:"};
     ItemDrill drill(ws, statementColumns, solutionColumns, 27, kUprightItems);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const double angle = RandomInRange(ws, 2000, 300000, 1, 1);
             return ItemTexts{SecondsToDegreeMarkup(angle), SecondsToDegreeMarkup(kRightAngle - angle) + ",  " +
                                                                SecondsToDegreeMarkup(kStraightAngle - angle)};

@@ -97,7 +97,7 @@ void AddingAndSubtractingComplexNumbers(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         const bool fractions = Coin(ws, 0.7f);
         const double operation = RandomInRange(ws, 1, 2, 1, 1);
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             double n[4], d[4];
             for (int k = 0; k < 4; ++k) {
                 n[k] = RandomInRange(ws, -12, 28, 1, 1);
@@ -134,7 +134,7 @@ void MultiplyingAndDividingComplexNumbers(GeneratorWorkspace& ws) {
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             Complex b(RandomInRange(ws, -12, 15, 1, 1), RandomInRange(ws, -12, 15, 1, 1));
             Complex a(RandomInRange(ws, -12, 28, 1, 1), RandomInRange(ws, -12, 15, 1, 1));
             if (kind == 2 && Coin(ws, 0.6f)) {
@@ -196,7 +196,7 @@ void CartesianPolarConversions(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         if (!Coin(ws, 0.8f)) direction = direction == 1 ? 2 : 1;
         const int unit = Coin(ws, 0.4f) ? 1 : 0;
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             std::string text, answer;
             if (direction == 1) {
                 const Complex z = DrawComplex(ws, -12, 28);
@@ -237,7 +237,7 @@ void MultiplyingAndDividingComplexNumbersInPolarForm(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
         const int unit = Coin(ws, 0.8f) ? 0 : 1;
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const Complex a = DrawComplex(ws, -5, 12);
             const Complex b = DrawComplex(ws, -5, 12);
             // A quotient: the dividend is the product, so that the quotient is a.
@@ -266,7 +266,7 @@ void PowersOfComplexNumbers(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
         const int unit = Coin(ws, 0.8f) ? 0 : 1;
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const double re = RandomInRange(ws, -5, 12, 1, 0);
             const double im = RandomInRange(ws, -5, 12, 1, 1);
             const int n = static_cast<int>(RandomInRange(ws, 2, 5, 1, 1));
@@ -300,7 +300,7 @@ void RootsOfComplexNumbers(GeneratorWorkspace& ws) {
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const Complex z = DrawComplex(ws, -5, 12);
             const int n = static_cast<int>(RandomInRange(ws, 2, 5, 1, 1));
             const std::string number = kind == 1 ? ComplexToMarkup(ws, z.real(), z.imag())

@@ -27,7 +27,7 @@ void AdditionAndSubtractionOfDecimalNumbers(GeneratorWorkspace& ws) {
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         operation = NextAddOrSubtract(ws, operation);
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             double a = RandomInRange(ws, 100000, 999999, 1, 1);
             double b = RandomInRange(ws, 100000, 999999, 1, 1);
             a = DropDigits(ws, a, 3);
@@ -64,7 +64,7 @@ void MultiplicationOfDecimalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             double a = EndInDigit(ws, RandomInRange(ws, 1000, 9999, 1, 1));
             double b = EndInDigit(ws, RandomInRange(ws, 1000, 9999, 1, 1));
             a = ShiftDecimalPoint(ws, a, 2);
@@ -92,7 +92,7 @@ void DivisionOfDecimalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             double divisor = RandomInRange(ws, 1000, 9999, 1, 1);
             double quotient = RandomInRange(ws, 1000, 9999, 1, 1);
             // The divisor loses up to two digits, then both end in a digit that is not 0.

@@ -58,7 +58,7 @@ void AdditionAndSubtractionOfFractions(GeneratorWorkspace& ws) {
     ItemDrill drill(ws, kStatementColumns4, {"&SP=10:", "&SP=29:", "&SP=53:", "&SP=76:"});
     const int terms = ws.Seed % 2 == 0 ? 2 : 3;
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             Ratio x[3];
             x[0] = Reduced(ws, RandomInRange(ws, -12, 28, 1, 1), RandomInRange(ws, 1, 15, 1, 1));
             x[1] = Reduced(ws, RandomInRange(ws, -12, 28, 1, 1), RandomInRange(ws, 1, 12, 1, 1));
@@ -94,7 +94,7 @@ void FourOperationsWithFractions(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         form += 1;
         if (form > 7) form = 1;
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             std::string text;
             Ratio value{0, 1};
             // The last fraction takes a smaller denominator.
@@ -243,7 +243,7 @@ void ConvertingDecimalNumbersToFractions(GeneratorWorkspace& ws) {
         } else if (jump) {
             shape = RandomInRange(ws, 1, 3, 1, 1);
         }
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const DecimalToFractionItem item = DrawDecimalToFraction(ws, static_cast<int>(shape));
             if (item.text.empty()) return ItemTexts{};
             return ItemTexts{item.text, FractionToMarkup(ws, item.numerator, item.denominator)};

@@ -36,7 +36,7 @@ void AdditionAndSubtractionOfIntegerNumbers(GeneratorWorkspace& ws) {
     double form = RandomInRange(ws, 1, 5, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         form = NextForm(form, 5);
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             std::string text;
             double value = 0;
             const double a = RandomInRange(ws, -15, 15, 1, 1);
@@ -96,7 +96,7 @@ void MultiplicationAndDivisionOfIntegerNumbers(GeneratorWorkspace& ws) {
             const double d = RandomInRange(ws, 2, 10, 1, 1);
             return Coin(ws, 0.2f) ? d : -d;
         };
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             std::string text;
             double value = 0;
             bool refused = false;

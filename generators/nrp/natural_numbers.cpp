@@ -20,7 +20,7 @@ void AdditionAndSubtractionOfNaturalNumbers(GeneratorWorkspace& ws) {
         operation = NextAddOrSubtract(ws, operation);
         // An item equal to an earlier one is drawn anew (the numbers too: building the
         // same numbers again could only give the same text).
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             double a = RandomInRange(ws, 100000, 999999, 1, 1);
             double b = RandomInRange(ws, 100000, 999999, 1, 1);
             b = DropDigits(ws, b, 3);
@@ -44,7 +44,7 @@ void MultiplicationOfNaturalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns3);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             double a = RandomInRange(ws, 10000, 99999, 1, 1);
             double b = RandomInRange(ws, 1000, 9999, 1, 1);
             // Two coins shorten each number by a digit; the last one puts the shorter first.
@@ -70,7 +70,7 @@ void DivisionOfNaturalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns3);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             double a = RandomInRange(ws, 100000, 999999, 1, 1);
             double b = RandomInRange(ws, 100, 999, 1, 1);
             b = DropDigits(ws, b, 1);
@@ -153,7 +153,7 @@ void LcmAndGcmOfNaturalNumbers(GeneratorWorkspace& ws) {
         if (Coin(ws, 0.9f)) countChoice = 2;
         if (Coin(ws, 0.5f)) countChoice = 1;
         const int count = countChoice == 2 ? 3 : 2;
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const LcmGcmItem item = DrawLcmGcmNumbers(ws, count);
             std::string text;
             for (std::size_t k = 0; k < item.numbers.size(); ++k) {

@@ -61,7 +61,7 @@ void AdditionAndSubtractionOfPolynomials(GeneratorWorkspace& ws) {
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextOperation(ws, operation);
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const PolynomialSumItem item = MakePolynomialSumItem(ws, operation);
             const std::string text = "( " + PolyText(ws, item.a) + (operation == 1 ? " )  +  ( " : " )  -  ( ") +
                                      PolyText(ws, item.b) + " )";
@@ -129,7 +129,7 @@ void MultiplicationAndPowerOfBinomials(GeneratorWorkspace& ws) {
         form += 1;
         if (form > 4) form = 1;
         if (Coin(ws, 0.9f)) form = form == 4 ? 1 : form + 1;
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const BinomialProductItem item = MakeBinomialProductItem(ws, static_cast<int>(form));
             std::string text;
             if (item.form == 2) text = ParenthesisedText(ws, item.a) + "^2";
@@ -185,7 +185,7 @@ void FactoringPolynomials(GeneratorWorkspace& ws) {
     ItemDrill drill(ws, kStatementColumns1, kSolutionColumns1);
     const double form = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const FactoringItem item = MakeFactoringItem(ws);
             const std::string text = PolyWorkToMarkup(ws.polyWork, "&+Ix&-I");
             return ItemTexts{text, FactoredText(item)};
@@ -239,7 +239,7 @@ void DivisionOfPolynomials(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = type == 1 ? 2 : 1;
-        drill.AddNewItem([&] {
+        AddNewItem(drill, [&] {
             const DivisionItem item = MakeDivisionItem(ws, static_cast<int>(type));
             const std::string text = "( " + PolyText(ws, item.dividend) + " ) : ( " + PolyText(ws, item.divisor) + " )";
             return ItemTexts{text, " &+Iq&-I = " + PolyText(ws, item.quotient) + ",  &+Ir&-I = " +

@@ -102,7 +102,7 @@ void AdditionAndSubtractionOfSquareRoots(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         form += 1;
         if (form > 3) form = 1;
-        drill.AddNewItem([&] { return DrawSquareRootSum(ws, static_cast<int>(form) + 1).texts; });
+        AddNewItem(drill, [&] { return DrawSquareRootSum(ws, static_cast<int>(form) + 1).texts; });
     }
     drill.WriteStatement({"Calculate the following expressions:&LF"});
 }
@@ -190,7 +190,7 @@ void SimplifyingNthRoots(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = NextType(ws, type, 6, 0.7f);
-        drill.AddNewItem([&] { return DrawSingleRoot(ws, static_cast<int>(type)).texts; });
+        AddNewItem(drill, [&] { return DrawSingleRoot(ws, static_cast<int>(type)).texts; });
     }
     drill.WriteStatement({"Simplify these expressions into a single root:&LF",
                           "Simplify the following expressions into a single root:&LF"});
@@ -241,7 +241,7 @@ void SimplifyingPowersOfNaturalNumbers(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 7, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = NextType(ws, type, 7, 0.7f);
-        drill.AddNewItem([&] { return DrawNaturalSinglePower(ws, static_cast<int>(type)).texts; });
+        AddNewItem(drill, [&] { return DrawNaturalSinglePower(ws, static_cast<int>(type)).texts; });
     }
     drill.WriteStatement({"Simplify these expressions into a single power:&LF",
                           "Simplify the following expressions into a single power:&LF"});
@@ -310,7 +310,7 @@ void SimplifyingPowersOfRationalNumbers(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 7, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = NextType(ws, type, 7, 0.7f);
-        drill.AddNewItem([&] { return DrawRationalSinglePower(ws, static_cast<int>(type)).texts; });
+        AddNewItem(drill, [&] { return DrawRationalSinglePower(ws, static_cast<int>(type)).texts; });
     }
     drill.WriteStatement({"Simplify these expressions into a single power with positive exponent:&LF",
                           "Simplify the following expressions into a single power with positive exponent:&LF"});

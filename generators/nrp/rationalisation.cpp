@@ -88,7 +88,7 @@ void RationalizationWithSquareRoots(GeneratorWorkspace& ws) {
         type += 1;
         if (type > 6) type = 1;
         if (Coin(ws, 0.8f)) type = RandomInRange(ws, 1, 6, 1, 1);
-        drill.AddNewItem([&] { return DrawSquareRootRationalisation(ws, static_cast<int>(type)); });
+        AddNewItem(drill, [&] { return DrawSquareRootRationalisation(ws, static_cast<int>(type)); });
     }
     drill.WriteStatement({"Rationalize the following expressions:&LF"});
 }
@@ -144,7 +144,7 @@ void RationalizationWithNthRoots(GeneratorWorkspace& ws) {
         if (type == 1 && toSecond) type = 2;
         const bool toFirst = Coin(ws, 0.8f);
         if (type == 2 && toFirst) type = 1;
-        drill.AddNewItem([&] { return DrawNthRootRationalisation(ws, static_cast<int>(type)); });
+        AddNewItem(drill, [&] { return DrawNthRootRationalisation(ws, static_cast<int>(type)); });
     }
     drill.WriteStatement({"Rationalize the following expressions:&LF"});
 }

@@ -83,10 +83,10 @@ TEST(ItemDrillAddNewItem, DrawsAgainWhileRefusedOrRepeated) {
     GeneratorWorkspace ws = SeededWorkspace(5);
     ws.ItemCount = 2;
     ItemDrill drill(ws, kStatementColumns2, kSolutionColumns2);
-    drill.AddNewItem([] { return ItemTexts{"1 + 1", "2"}; });
+    AddNewItem(drill, [] { return ItemTexts{"1 + 1", "2"}; });
     const std::vector<ItemTexts> script = {{"", "refused"}, {"1 + 1", "repeat"}, {"2 + 2", "4"}};
     std::size_t calls = 0;
-    drill.AddNewItem([&] { return script[calls++]; });
+    AddNewItem(drill, [&] { return script[calls++]; });
     EXPECT_EQ(calls, 3u);
     EXPECT_EQ(ws.Solution, "&SP=10:&-I&+Ba)&-B 2&SP=50:&-I&+Bb)&-B 4&LF");
     drill.WriteStatement({"Head.&LF"});
@@ -97,7 +97,7 @@ TEST(ItemDrillAddNewItem, ADrawThatNeverSucceedsIsAFault) {
     GeneratorWorkspace ws = SeededWorkspace(5);
     ws.ItemCount = 1;
     ItemDrill drill(ws, kStatementColumns1, kSolutionColumns1);
-    EXPECT_THROW(drill.AddNewItem([] { return ItemTexts{}; }), GeneratorFault);
+    EXPECT_THROW(AddNewItem(drill, [] { return ItemTexts{}; }), GeneratorFault);
 }
 
 TEST(ItemDrillLook, PowerRowsAreUprightWithABlankLineAfterEachRow) {

@@ -13,15 +13,6 @@
 #include "mathservices/poly_markup.h"
 
 namespace {
-// The alternation of two operations of the drills: one step on, and a small chance of
-// going back (both coins always drawn).
-void NextOperation(GeneratorWorkspace& ws, double& operation) {
-    operation += 1;
-    if (operation > 2) operation = 1;
-    if (operation == 1 && Coin(ws, 0.9f)) operation = 2;
-    if (operation == 2 && Coin(ws, 0.9f)) operation = 1;
-}
-
 // A polynomial of the given degree: a nonzero lead, the other terms in -9 to 29, each of
 // which vanishes on a coin.
 Coefficients DrawSumPolynomial(GeneratorWorkspace& ws, int degree) {
@@ -60,7 +51,7 @@ void AdditionAndSubtractionOfPolynomials(GeneratorWorkspace& ws) {
     ItemDrill drill(ws, {"&SP=5:"}, {"&SP=10:", "&SP=50:"});
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
-        NextOperation(ws, operation);
+        operation = NextAddOrSubtract(ws, operation);
         AddNewItem(drill, [&] {
             const PolynomialSumItem item = MakePolynomialSumItem(ws, operation);
             const std::string text = "( " + PolyText(ws, item.a) + (operation == 1 ? " )  +  ( " : " )  -  ( ") +

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "core/application_state.h"
+#include "mathservices/utf8_text.h"
 
 // The 16-digit problem code of a record: routine 3, variant 3, seed 4, items 2, group
 // size 2, group index 2; a value too wide keeps its low digits.
@@ -38,8 +39,7 @@ int WantedProblemCount(const ApplicationState& app);
 // The new-collection command: undo point, wizard, and on acceptance the new collection.
 void NewCollectionCommand(ApplicationState& app);
 
-// Plain text helpers shared by the core.
-std::string TrimBlanks(const std::string& text);
+// Plain text helpers shared by the core (TrimBlanks comes with utf8_text.h).
 std::string Upper(std::string text);
 // The leading-number reading of a text: "12abc" is 12, "abc" is 0.
 double LeadingNumber(const std::string& text);

@@ -3,16 +3,9 @@
 #include "mathservices/utf8_text.h"
 
 namespace {
-std::string Trim(const std::string& s) {
-    const auto first = s.find_first_not_of(' ');
-    if (first == std::string::npos) return "";
-    const auto last = s.find_last_not_of(' ');
-    return s.substr(first, last - first + 1);
-}
-
 // Trimmed, padded with leading zeros and cut to its last three characters.
 std::string ThreeDigits(const std::string& value) {
-    const std::string padded = "000" + Trim(value);
+    const std::string padded = "000" + TrimBlanks(value);
     return padded.substr(padded.size() - 3);
 }
 } // namespace
@@ -26,7 +19,7 @@ void NormaliseDescribeFields(GeneratorWorkspace& ws, int routineNumber) {
     ws.TopicName = Utf8PadRight(ws.TopicName, 80);
     ws.Title = Utf8PadRight(ws.Title, 80);
     ws.Description = Utf8PadRight(ws.Description, 160);
-    ws.Kind = (Trim(ws.Kind) + "3").substr(0, 1);
+    ws.Kind = (TrimBlanks(ws.Kind) + "3").substr(0, 1);
 }
 
 std::string TopicHeaderLine(const GeneratorWorkspace& ws) {

@@ -32,9 +32,9 @@ int DrillItemCount(const GeneratorWorkspace& ws, int maxAmount) {
 }
 
 ItemDrill::ItemDrill(GeneratorWorkspace& ws, ColumnMarks statementColumns, ColumnMarks solutionColumns,
-                     int maxAmount)
+                     int maxAmount, ItemLook look)
     : ws_(ws), statementColumns_(std::move(statementColumns)), solutionColumns_(std::move(solutionColumns)),
-      count_(DrillItemCount(ws, maxAmount)) {}
+      count_(DrillItemCount(ws, maxAmount)), look_(std::move(look)) {}
 
 bool ItemDrill::IsRepeat(const std::string& statementText) const {
     return std::find(items_.begin(), items_.end(), statementText) != items_.end();
@@ -44,7 +44,7 @@ void ItemDrill::AddItem(const std::string& statementText, const std::string& sol
     items_.push_back(statementText);
     const int i = static_cast<int>(items_.size());
     ws_.Solution += MarkOf(solutionColumns_, i) + "&-I&+B" + ItemLetter(i) + ")&-B " + solutionText;
-    if (EndsRow(solutionColumns_, i, count_)) ws_.Solution += "&LF";
+    if (EndsRow(solutionColumns_, i, count_)) ws_.Solution += look_.rowEnd;
 }
 
 void ItemDrill::WriteStatement(const std::vector<std::string>& headLines) {
@@ -52,8 +52,9 @@ void ItemDrill::WriteStatement(const std::vector<std::string>& headLines) {
     ws_.Statement += headLines[static_cast<std::size_t>(form) - 1];
     const int n = static_cast<int>(items_.size());
     for (int i = 1; i <= n; ++i) {
-        ws_.Statement += MarkOf(statementColumns_, i) + "&+B" + ItemLetter(i) + ")&-B&+I " + items_[i - 1] + "&-I";
-        if (EndsRow(statementColumns_, i, n)) ws_.Statement += "&LF";
+        ws_.Statement +=
+            MarkOf(statementColumns_, i) + "&+B" + ItemLetter(i) + look_.afterLetter + items_[i - 1] + look_.afterItem;
+        if (EndsRow(statementColumns_, i, n)) ws_.Statement += look_.rowEnd;
     }
-    ws_.Statement += "&LF";
+    ws_.Statement += look_.statementEnd;
 }

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "generators/generator_contract.h"
+#include "mathservices/faults.h"
 
 // The lettered items of a drill (kind "2"): the item count, the column marks, the
 // solution written item by item, the head line drawn after the loop, and the statement.
@@ -19,13 +20,33 @@ inline const ColumnMarks kSolutionColumns3 = {"&SP=10:", "&SP=40:", "&SP=70:"};
 inline const ColumnMarks kSolutionColumns2 = {"&SP=10:", "&SP=50:"};
 inline const ColumnMarks kSolutionColumns1 = {"&SP=10:"};
 
+// How the items are written: what follows the bold letter of a statement item, what
+// closes the item, what ends a row (of statement and solution alike), and what follows
+// the last row of the statement.
+struct ItemLook {
+    std::string afterLetter;
+    std::string afterItem;
+    std::string rowEnd;
+    std::string statementEnd;
+};
+// Statement items in italics, a blank line after the statement.
+inline const ItemLook kItalicItems = {")&-B&+I ", "&-I", "&LF", "&LF"};
+// Upright statement items, for drills whose items carry their own italics.
+inline const ItemLook kUprightItems = {")&-B ", "", "&LF", "&LF"};
+
+// The statement and the solution text of one item.
+struct ItemTexts {
+    std::string statement;
+    std::string solution;
+};
+
 // ItemCount clipped into 1 to maxAmount (26 letters at most).
 int DrillItemCount(const GeneratorWorkspace& ws, int maxAmount = 26);
 
 class ItemDrill {
 public:
     ItemDrill(GeneratorWorkspace& ws, ColumnMarks statementColumns, ColumnMarks solutionColumns,
-              int maxAmount = 26);
+              int maxAmount = 26, ItemLook look = kItalicItems);
 
     int Count() const { return count_; }
     // True when an earlier item of this problem has this very statement text.
@@ -33,17 +54,33 @@ public:
     // Remembers the next item and appends its solution, with its column mark and letter.
     void AddItem(const std::string& statementText, const std::string& solutionText);
     // Draws the head line among the wordings (one range draw), then writes the items of
-    // the statement and the blank line after them.
+    // the statement and what ends it.
     void WriteStatement(const std::vector<std::string>& headLines);
-    const std::vector<std::string>& Items() const { return items_; }
 
 private:
     GeneratorWorkspace& ws_;
     ColumnMarks statementColumns_;
     ColumnMarks solutionColumns_;
     int count_;
+    ItemLook look_;
     std::vector<std::string> items_;
 };
+
+// Calls draw() until it gives an item whose statement is neither empty (a refused draw)
+// nor a repeat of an earlier item of the list, and adds that item to the list (an
+// ItemDrill, or any list with IsRepeat and AddItem).
+template <typename List, typename Draw>
+void AddNewItem(List& list, Draw draw) {
+    RetryBound bound;
+    while (true) {
+        const auto item = draw();
+        if (!item.statement.empty() && !list.IsRepeat(item.statement)) {
+            list.AddItem(item.statement, item.solution);
+            return;
+        }
+        bound.Next();
+    }
+}
 
 // The operation of the next item of an addition and subtraction drill (1 addition, 2
 // subtraction): the operations alternate, and two coins, both always drawn, give a small

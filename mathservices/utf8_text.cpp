@@ -38,3 +38,10 @@ std::string Utf8PadRight(const std::string& text, std::size_t width) {
     if (length < width) out.append(width - length, ' ');
     return out;
 }
+
+std::string TrimBlanks(const std::string& text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string::npos) return "";
+    const auto last = text.find_last_not_of(' ');
+    return text.substr(first, last - first + 1);
+}

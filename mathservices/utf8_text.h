@@ -10,3 +10,5 @@ std::string Utf8Left(const std::string& text, std::size_t count);
 std::string Utf8Mid(const std::string& text, std::size_t start, std::size_t count = std::string::npos);
 // Padded with blanks on the right, or cut, to exactly width characters.
 std::string Utf8PadRight(const std::string& text, std::size_t width);
+// text without the blanks at its start and at its end.
+std::string TrimBlanks(const std::string& text);

@@ -1,7 +1,9 @@
 #pragma once
 #include <string>
+#include <vector>
 
 #include "generators/generator_contract.h"
+#include "generators/item_drill.h"
 
 // Small pieces that the equation drills share.
 
@@ -19,3 +21,18 @@ std::string DrawRelation(GeneratorWorkspace& ws);
 std::string SignedTail(double value, const std::string& magnitudeText);
 
 inline const std::string kEquals = "& =& ";
+
+// The lettered items of an equation drill: make(ws) draws one item (its text and its
+// answer), and draws again while the text repeats an earlier item.
+template <typename MakeItem>
+void EquationDrill(GeneratorWorkspace& ws, MakeItem make, int maxAmount, const ColumnMarks& statementColumns,
+                   const ColumnMarks& solutionColumns, const std::vector<std::string>& headLines) {
+    ItemDrill drill(ws, statementColumns, solutionColumns, maxAmount);
+    for (int i = 1; i <= drill.Count(); ++i) {
+        AddNewItem(drill, [&] {
+            const auto item = make(ws);
+            return ItemTexts{item.text, item.answer};
+        });
+    }
+    drill.WriteStatement(headLines);
+}

@@ -129,24 +129,6 @@ RootsItem LogarithmicItem(GeneratorWorkspace& ws) {
     return item;
 }
 
-namespace {
-template <typename MakeItem>
-void ExponentialDrill(GeneratorWorkspace& ws, MakeItem make, const std::vector<std::string>& headLines) {
-    ItemDrill drill(ws, kStatementColumns2, kSolutionColumns2);
-    for (int i = 1; i <= drill.Count(); ++i) {
-        RootsItem item;
-        RetryBound bound;
-        while (true) {
-            item = make(ws);
-            if (!drill.IsRepeat(item.text)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.text, item.answer);
-    }
-    drill.WriteStatement(headLines);
-}
-} // namespace
-
 // Routine 10.
 void ExponentialEquations(GeneratorWorkspace& ws) {
     if (ws.DescribeMode) {
@@ -154,8 +136,8 @@ void ExponentialEquations(GeneratorWorkspace& ws) {
                       "Exercises about exponential equations. (4 types)"});
         return;
     }
-    ExponentialDrill(ws, ExponentialItem,
-                     {"Solve the following exponential equations:&LF", "Solve these exponential equations:&LF"});
+    EquationDrill(ws, ExponentialItem, 26, kStatementColumns2, kSolutionColumns2,
+                  {"Solve the following exponential equations:&LF", "Solve these exponential equations:&LF"});
 }
 
 // Routine 13.
@@ -165,6 +147,6 @@ void LogarithmicEquations(GeneratorWorkspace& ws) {
                       "Exercises about logarithmic equations. (3 types)"});
         return;
     }
-    ExponentialDrill(ws, LogarithmicItem,
-                     {"Solve the following logarithmic equations:&LF", "Solve these logarithmic equations:&LF"});
+    EquationDrill(ws, LogarithmicItem, 26, kStatementColumns2, kSolutionColumns2,
+                  {"Solve the following logarithmic equations:&LF", "Solve these logarithmic equations:&LF"});
 }

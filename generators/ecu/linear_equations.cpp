@@ -164,15 +164,11 @@ void LinearDrill(GeneratorWorkspace& ws, bool rational, bool inequation, int max
                  const ColumnMarks& statementColumns, const ColumnMarks& solutionColumns) {
     ItemDrill drill(ws, statementColumns, solutionColumns, maxAmount);
     for (int i = 1; i <= drill.Count(); ++i) {
-        LinearItem item;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const std::string relation = inequation ? DrawRelation(ws) : "=";
-            item = rational ? RationalLinearItem(ws, relation) : IntegerLinearItem(ws, relation);
-            if (!drill.IsRepeat(item.text)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.text, LinearAnswer(ws, item));
+            const LinearItem item = rational ? RationalLinearItem(ws, relation) : IntegerLinearItem(ws, relation);
+            return ItemTexts{item.text, LinearAnswer(ws, item)};
+        });
     }
     const std::string what = inequation ? "inequations:&LF" : "equations:&LF";
     drill.WriteStatement({"Solve these linear " + what, "Solve the following linear " + what});

@@ -241,25 +241,6 @@ RootsItem RootEquationItem(GeneratorWorkspace& ws) {
     }
 }
 
-namespace {
-template <typename MakeItem>
-void RootsDrill(GeneratorWorkspace& ws, MakeItem make, const ColumnMarks& statementColumns,
-                const ColumnMarks& solutionColumns, const std::vector<std::string>& headLines) {
-    ItemDrill drill(ws, statementColumns, solutionColumns);
-    for (int i = 1; i <= drill.Count(); ++i) {
-        RootsItem item;
-        RetryBound bound;
-        while (true) {
-            item = make(ws);
-            if (!drill.IsRepeat(item.text)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.text, item.answer);
-    }
-    drill.WriteStatement(headLines);
-}
-} // namespace
-
 // Routine 11.
 void IncompleteQuadraticEquations(GeneratorWorkspace& ws) {
     if (ws.DescribeMode) {
@@ -267,9 +248,9 @@ void IncompleteQuadraticEquations(GeneratorWorkspace& ws) {
                       "Exercises about incomplete quadratic equations ax\u00B2+bx+c=0 where b=0 or c=0. (4 types)"});
         return;
     }
-    RootsDrill(ws, IncompleteQuadraticItem, kStatementColumns3, kSolutionColumns2,
-               {"Solve the following incomplete quadratic equations:&LF",
-                "Solve these incomplete quadratic equations:&LF"});
+    EquationDrill(ws, IncompleteQuadraticItem, 26, kStatementColumns3, kSolutionColumns2,
+                  {"Solve the following incomplete quadratic equations:&LF",
+                   "Solve these incomplete quadratic equations:&LF"});
 }
 
 // Routine 2.
@@ -279,10 +260,10 @@ void CompleteQuadraticEquations(GeneratorWorkspace& ws) {
                       "Exercises about complete quadratic equations ax\u00B2+bx+c=0. (3 types)"});
         return;
     }
-    RootsDrill(ws, CompleteQuadraticItem, kStatementColumns3, kSolutionColumns2,
-               {"Solve the following quadratic equations:&LF",
-                "Find all real solutions of the following quadratic equations:&LF",
-                "Solve these quadratic equations:&LF", "Find all real solutions of these quadratic equations:&LF"});
+    EquationDrill(ws, CompleteQuadraticItem, 26, kStatementColumns3, kSolutionColumns2,
+                  {"Solve the following quadratic equations:&LF",
+                   "Find all real solutions of the following quadratic equations:&LF",
+                   "Solve these quadratic equations:&LF", "Find all real solutions of these quadratic equations:&LF"});
 }
 
 // Routine 12.
@@ -292,8 +273,8 @@ void BiquadraticEquations(GeneratorWorkspace& ws) {
                       "Exercises about biquadratic equations. (3 types)"});
         return;
     }
-    RootsDrill(ws, BiquadraticItem, kStatementColumns2, kSolutionColumns2,
-               {"Solve the following biquadratic equations:&LF", "Solve these biquadratic equations:&LF"});
+    EquationDrill(ws, BiquadraticItem, 26, kStatementColumns2, kSolutionColumns2,
+                  {"Solve the following biquadratic equations:&LF", "Solve these biquadratic equations:&LF"});
 }
 
 // Routine 3.
@@ -303,7 +284,7 @@ void EquationsInvolvingRoots(GeneratorWorkspace& ws) {
                       "Exercises about equations involving roots. (1 type)"});
         return;
     }
-    RootsDrill(ws, RootEquationItem, kStatementColumns2, kSolutionColumns2,
-               {"Solve the following equations:&LF", "Find all real solutions of the following equations:&LF",
-                "Solve these equations:&LF", "Find all real solutions of these equations:&LF"});
+    EquationDrill(ws, RootEquationItem, 26, kStatementColumns2, kSolutionColumns2,
+                  {"Solve the following equations:&LF", "Find all real solutions of the following equations:&LF",
+                   "Solve these equations:&LF", "Find all real solutions of these equations:&LF"});
 }

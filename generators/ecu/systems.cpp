@@ -23,23 +23,6 @@ double Det3(const std::array<std::array<double, 4>, 3>& m) {
     return m[0][0] * (m[1][1] * m[2][2] - m[1][2] * m[2][1]) - m[0][1] * (m[1][0] * m[2][2] - m[1][2] * m[2][0]) +
            m[0][2] * (m[1][0] * m[2][1] - m[1][1] * m[2][0]);
 }
-
-template <typename MakeItem>
-void SystemDrill(GeneratorWorkspace& ws, MakeItem make, int maxAmount, const ColumnMarks& statementColumns,
-                 const ColumnMarks& solutionColumns, const std::vector<std::string>& headLines) {
-    ItemDrill drill(ws, statementColumns, solutionColumns, maxAmount);
-    for (int i = 1; i <= drill.Count(); ++i) {
-        SystemItem item;
-        RetryBound bound;
-        while (true) {
-            item = make(ws);
-            if (!drill.IsRepeat(item.text)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.text, item.answer);
-    }
-    drill.WriteStatement(headLines);
-}
 } // namespace
 
 // The solution first, then the coefficients; the right sides follow from the solution.
@@ -161,9 +144,9 @@ void LinearSystems2(GeneratorWorkspace& ws) {
                       "Exercises about systems of 2\u00D72 linear equations. (1 type)"});
         return;
     }
-    SystemDrill(ws, LinearSystem2Item, 26, {"&SP=5:", "&SP=35:", "&SP=65:"}, {"&SP=10:", "&SP=38:", "&SP=66:"},
-                {"Solve the following systems of  2\u00D72  linear equations:&LF",
-                 "Solve these systems of  2\u00D72  linear equations:&LF"});
+    EquationDrill(ws, LinearSystem2Item, 26, {"&SP=5:", "&SP=35:", "&SP=65:"}, {"&SP=10:", "&SP=38:", "&SP=66:"},
+                  {"Solve the following systems of  2\u00D72  linear equations:&LF",
+                   "Solve these systems of  2\u00D72  linear equations:&LF"});
     // This drill's answers follow the letter without the usual blank.
     ws.Solution = ReplaceAll(ws.Solution, ")&-B &+I  x = &-I", ")&-B&+I  x = &-I");
 }
@@ -175,9 +158,9 @@ void LinearSystems3(GeneratorWorkspace& ws) {
                       "Exercises about systems of 3\u00D73 linear equations. (1 type)"});
         return;
     }
-    SystemDrill(ws, LinearSystem3Item, 26, kStatementColumns2, kSolutionColumns2,
-                {"Solve the following systems of  3\u00D73  linear equations:&LF",
-                 "Solve these systems of  3\u00D73  linear equations:&LF"});
+    EquationDrill(ws, LinearSystem3Item, 26, kStatementColumns2, kSolutionColumns2,
+                  {"Solve the following systems of  3\u00D73  linear equations:&LF",
+                   "Solve these systems of  3\u00D73  linear equations:&LF"});
 }
 
 // Routine 9.
@@ -189,7 +172,7 @@ void NonlinearSystems(GeneratorWorkspace& ws) {
                       "coefficients. (1 type)"});
         return;
     }
-    SystemDrill(ws, NonlinearSystemItem, 21, kStatementColumns2, kSolutionColumns2,
-                {"Solve the following nonlinear systems of  2\u00D72  equations:&LF",
-                 "Solve these nonlinear systems of  2\u00D72  equations:&LF"});
+    EquationDrill(ws, NonlinearSystemItem, 21, kStatementColumns2, kSolutionColumns2,
+                  {"Solve the following nonlinear systems of  2\u00D72  equations:&LF",
+                   "Solve these nonlinear systems of  2\u00D72  equations:&LF"});
 }

@@ -23,9 +23,26 @@ std::string Focus(MathWorkspace& ws, bool second, double x, double y) {
            NumberToExactMarkup(ws, y) + ")";
 }
 
-// The equation as an answer: reduced form, or the general one.
-std::string EquationAnswer(MathWorkspace& ws, const ConicData& conic) {
-    return ConicToMarkup(ws, conic, ConicStyle::Reduced) + kOr + ConicToMarkup(ws, conic, ConicStyle::General);
+// The solution that gives the equation, in reduced form or the general one, and on a line
+// of its own what else the statement asks for, if anything.
+std::string EquationSolution(MathWorkspace& ws, const ConicData& conic, const std::string& alsoAsked = "") {
+    std::string text = "&SP=10:" + ConicToMarkup(ws, conic, ConicStyle::Reduced) + kOr +
+                       ConicToMarkup(ws, conic, ConicStyle::General) + "&LF";
+    if (!alsoAsked.empty()) text += "&SP=10:" + alsoAsked + "&LF";
+    return text;
+}
+
+// Remainders 0, 3, 6 and 7 of the ellipse and the hyperbola keep the centre at the
+// origin; the others draw it.
+void DrawCentre(GeneratorWorkspace& ws, int type, double& h, double& k) {
+    if (type == 0 || type == 3 || type == 6 || type == 7) return;
+    h = RandomInRange(ws, -9, 9, 1, 1);
+    k = RandomInRange(ws, -9, 9, 1, 1);
+}
+
+// The two foci at distance c from the centre (h, k) along the unit step (ux, uy).
+std::string FociText(MathWorkspace& ws, double h, double k, double c, double ux, double uy) {
+    return Focus(ws, false, h + c * ux, k + c * uy) + ",  " + Focus(ws, true, h - c * ux, k - c * uy);
 }
 } // namespace
 
@@ -46,16 +63,13 @@ void Ellipse(GeneratorWorkspace& ws) {
     PlaneTriple(ws, type == 4 || type == 6 ? 20 : 30, b, c, a);
     const bool vertical = Coin(ws, 0.7f);
     double h = 0, k = 0;
-    if (!(type == 0 || type == 3 || type == 6 || type == 7)) {
-        h = RandomInRange(ws, -9, 9, 1, 1);
-        k = RandomInRange(ws, -9, 9, 1, 1);
-    }
+    DrawCentre(ws, type, h, k);
     const std::string verb = DrawVerb(ws);
     const ConicData conic{ConicKind::Ellipse, h, k, vertical ? b * b : a * a, vertical ? a * a : b * b, false};
     // Unit steps along the major axis (ux, uy) and the minor axis (vx, vy).
     const double ux = vertical ? 0 : 1, uy = vertical ? 1 : 0;
     const double vx = uy, vy = ux;
-    const std::string foci = Focus(ws, false, h + c * ux, k + c * uy) + ",  " + Focus(ws, true, h - c * ux, k - c * uy);
+    const std::string foci = FociText(ws, h, k, c, ux, uy);
     const std::string majorVertex = PointMarkup(ws, "A", h + a * ux, k + a * uy);
     const std::string minorVertex = PointMarkup(ws, "B", h + b * vx, k + b * vy);
     const std::string eccentricity = FractionToMarkup(ws, c, a);
@@ -65,26 +79,26 @@ void Ellipse(GeneratorWorkspace& ws) {
     case 1:
         ws.Statement = "An ellipse has foci at the points  " + foci + "  and semimajor axis of length " +
                        NumberToMarkup(a) + ask;
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF";
+        ws.Solution = EquationSolution(ws, conic);
         break;
     case 3:
         ws.Statement = "An ellipse has foci at the points  " + foci + "  and a vertex at the point " +
                        (Coin(ws, 0.5f) ? majorVertex : PointMarkup(ws, "A", h - a * ux, k - a * uy)) + ask;
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF";
+        ws.Solution = EquationSolution(ws, conic);
         break;
     case 5:
         ws.Statement = "An ellipse has foci at the points  " + foci + "  and its eccentricity is " + eccentricity + ask;
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF";
+        ws.Solution = EquationSolution(ws, conic);
         break;
     case 7:
         ws.Statement = "An ellipse is centered at origin and has vertices at the points  " + majorVertex + "  and  " +
                        minorVertex + askFoci;
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF&SP=10:" + foci + "&LF";
+        ws.Solution = EquationSolution(ws, conic, foci);
         break;
     case 8:
         ws.Statement = "An ellipse is centered at  " + PointMarkup(ws, "C", h, k) + "  with vertices at the points  " +
                        majorVertex + "  and  " + minorVertex + askFoci;
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF&SP=10:" + foci + "&LF";
+        ws.Solution = EquationSolution(ws, conic, foci);
         break;
     default:
         ws.Statement = "Consider the ellipse  " + ConicToMarkup(ws, conic, StyleOfRemainder(type)) + ".  " + verb +
@@ -116,14 +130,11 @@ void Hyperbola(GeneratorWorkspace& ws) {
     PlaneTriple(ws, type == 4 || type == 6 ? 20 : 30, a, b, c);
     const bool vertical = Coin(ws, 0.7f);
     double h = 0, k = 0;
-    if (!(type == 0 || type == 3 || type == 6 || type == 7)) {
-        h = RandomInRange(ws, -9, 9, 1, 1);
-        k = RandomInRange(ws, -9, 9, 1, 1);
-    }
+    DrawCentre(ws, type, h, k);
     const std::string verb = DrawVerb(ws);
     const ConicData conic{ConicKind::Hyperbola, h, k, a * a, b * b, vertical};
     const double ux = vertical ? 0 : 1, uy = vertical ? 1 : 0;
-    const std::string foci = Focus(ws, false, h + c * ux, k + c * uy) + ",  " + Focus(ws, true, h - c * ux, k - c * uy);
+    const std::string foci = FociText(ws, h, k, c, ux, uy);
     const std::string vertex = PointMarkup(ws, "A", h + a * ux, k + a * uy);
     const std::string vertices = vertex + ",  " + PointMarkup(ws, "A_ '_ ", h - a * ux, k - a * uy);
     const std::string eccentricity = FractionToMarkup(ws, c, a);
@@ -137,26 +148,26 @@ void Hyperbola(GeneratorWorkspace& ws) {
     case 1:
         ws.Statement = "A hyperbola has foci at the points  " + foci + "  and semiaxis of length  " + NumberToMarkup(a) +
                        ask;
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF";
+        ws.Solution = EquationSolution(ws, conic);
         break;
     case 3:
         ws.Statement = "A hyperbola has foci at the points  " + foci + "  and a vertex at " + vertex + ask;
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF";
+        ws.Solution = EquationSolution(ws, conic);
         break;
     case 5:
         ws.Statement = "A hyperbola has foci at  " + foci + "  and its eccentricity is " + eccentricity + ask;
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF";
+        ws.Solution = EquationSolution(ws, conic);
         break;
     case 7:
         ws.Statement = "A hyperbola is centered at origin and has a vertex at the point  " + vertex +
                        "  and its asymptotes are  " + asymptotes + ".  " + verb +
                        " the equation and the foci of the hyperbola.&LF";
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF&SP=10:" + foci + "&LF";
+        ws.Solution = EquationSolution(ws, conic, foci);
         break;
     case 8:
         ws.Statement = "The eccentricity of a hyperbola is " + eccentricity + "  and has vertices at the points  " +
                        vertices + ask;
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF";
+        ws.Solution = EquationSolution(ws, conic);
         break;
     default: {
         const bool six = type == 0 || type == 6;
@@ -199,17 +210,17 @@ void Parabola(GeneratorWorkspace& ws) {
     case 1:
         ws.Statement = "A parabola has its focus at the point  " + focus + "  and its directrix is  " + directrix +
                        ".  " + verb + " its equation and its vertex.&LF";
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF&SP=10:" + vertex + "&LF";
+        ws.Solution = EquationSolution(ws, conic, vertex);
         break;
     case 3:
         ws.Statement = "The point  " + vertex + "  is the vertex of a parabola whose directrix is  " + directrix +
                        ".  " + verb + " its equation and its focus.&LF";
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF&SP=10:" + focus + "&LF";
+        ws.Solution = EquationSolution(ws, conic, focus);
         break;
     case 5:
         ws.Statement = "The focus of a parabola is " + focus + "  and its vertex is  " + vertex + ".  " + verb +
                        " its equation and its directrix.&LF";
-        ws.Solution = "&SP=10:" + EquationAnswer(ws, conic) + "&LF&SP=10:" + directrix + "&LF";
+        ws.Solution = EquationSolution(ws, conic, directrix);
         break;
     default:
         ws.Statement = "Consider the parabola  " + ConicToMarkup(ws, conic, StyleOfRemainder(type)) + ".  " + verb +

@@ -37,6 +37,21 @@ LinearRow Combination(double alpha, const LinearRow& r0, double beta, const Line
     return r;
 }
 
+// The first two rows: drawn coefficients, with the right sides that the point p solves.
+void DrawRowsThrough(GeneratorWorkspace& ws, ThreeEquationSystem& s, const Vec3& p) {
+    for (int i = 0; i < 2; ++i) {
+        s.rows[i].a = DrawCoefficients(ws);
+        s.rows[i].d = Dot(s.rows[i].a, p);
+    }
+}
+
+// The third row as a combination of the first two, with multiples of -3..3 but 0.
+LinearRow DrawCombination(GeneratorWorkspace& ws, const ThreeEquationSystem& s) {
+    const double alpha = RandomInRange(ws, -3, 3, 1, 1);
+    const double beta = RandomInRange(ws, -3, 3, 1, 1);
+    return Combination(alpha, s.rows[0], beta, s.rows[1]);
+}
+
 std::string RowMarkup(const LinearRow& row, const std::string& letter) {
     Coefficient c[3] = {row.a.x, row.a.y, row.a.z};
     if (row.letterColumn >= 0) c[row.letterColumn] = Coefficient(0, letter);
@@ -107,19 +122,12 @@ ThreeEquationSystem BuildSystemWithoutParameter(GeneratorWorkspace& ws, SystemCa
                 s.rows[i].a = {a, b, -(a * u + b * w)};
                 s.rows[i].d = a * x0 + b * y0;
             }
-            const double alpha = RandomInRange(ws, -3, 3, 1, 1);
-            const double beta = RandomInRange(ws, -3, 3, 1, 1);
-            s.rows[2] = Combination(alpha, s.rows[0], beta, s.rows[1]);
+            s.rows[2] = DrawCombination(ws, s);
             ok = !AreParallel(s.rows[0].a, s.rows[1].a);
         } else {
             const Vec3 p = DrawVector(ws, -8, 8, 0);
-            for (int i = 0; i < 2; ++i) {
-                s.rows[i].a = DrawCoefficients(ws);
-                s.rows[i].d = Dot(s.rows[i].a, p);
-            }
-            const double alpha = RandomInRange(ws, -3, 3, 1, 1);
-            const double beta = RandomInRange(ws, -3, 3, 1, 1);
-            s.rows[2] = Combination(alpha, s.rows[0], beta, s.rows[1]);
+            DrawRowsThrough(ws, s, p);
+            s.rows[2] = DrawCombination(ws, s);
             const double shift = RandomInRange(ws, 1, 5, 1, 1);
             s.rows[2].d += Coin(ws, 0.5f) ? shift : -shift;
             ok = !AreParallel(s.rows[0].a, s.rows[1].a);
@@ -143,13 +151,8 @@ ThreeEquationSystem BuildSystemWithParameter(GeneratorWorkspace& ws, SystemCase 
         // Where the rank drops to an indeterminate system, the stated solution must not
         // depend on the letter: its co-ordinate under the letter is 0.
         if (kind == SystemCase::Indeterminate) p[column] = 0;
-        for (int i = 0; i < 2; ++i) {
-            s.rows[i].a = DrawCoefficients(ws);
-            s.rows[i].d = Dot(s.rows[i].a, p);
-        }
-        const double alpha = RandomInRange(ws, -3, 3, 1, 1);
-        const double beta = RandomInRange(ws, -3, 3, 1, 1);
-        s.rows[2] = Combination(alpha, s.rows[0], beta, s.rows[1]);
+        DrawRowsThrough(ws, s, p);
+        s.rows[2] = DrawCombination(ws, s);
         s.rows[2].letterColumn = column;
         s.criticalValue = s.rows[2].a[column];
         // At the stated value the third row is the combination plus (stated - critical)

@@ -2,13 +2,11 @@
 #include <string>
 
 #include "generators/generator_contract.h"
+#include "generators/item_drill.h"
 
 // One item of a list of integrals: the integral as the statement shows it and its
 // antiderivative with the constant.
-struct IntegralItem {
-    std::string statement;
-    std::string solution;
-};
+using IntegralItem = ItemTexts;
 
 inline constexpr int kByPartsRows = 23;
 inline constexpr int kSubstitutionRows = 35;

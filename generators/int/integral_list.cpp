@@ -15,7 +15,7 @@ bool IntegralList::IsRepeat(const std::string& statementText) const {
     return std::find(statements_.begin(), statements_.end(), statementText) != statements_.end();
 }
 
-void IntegralList::Add(const std::string& statementText, const std::string& solutionText) {
+void IntegralList::AddItem(const std::string& statementText, const std::string& solutionText) {
     statements_.push_back(statementText);
     solutions_.push_back(solutionText);
 }

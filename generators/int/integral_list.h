@@ -19,7 +19,7 @@ public:
 
     int Count() const { return count_; }
     bool IsRepeat(const std::string& statementText) const;
-    void Add(const std::string& statementText, const std::string& solutionText);
+    void AddItem(const std::string& statementText, const std::string& solutionText);
     // Writes the heading and both lists into the workspace.
     void Write();
 

@@ -203,7 +203,7 @@ void IntegrationByParts(GeneratorWorkspace& ws) {
             if (row != previous) {
                 const IntegralItem item = MakeByPartsItem(ws, row);
                 if (!list.IsRepeat(item.statement)) {
-                    list.Add(item.statement, item.solution);
+                    list.AddItem(item.statement, item.solution);
                     break;
                 }
             }

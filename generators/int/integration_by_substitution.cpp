@@ -4,7 +4,6 @@
 #include "generators/int/integral_items.h"
 #include "generators/int/integral_list.h"
 #include "mathservices/arithmetic.h"
-#include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
 #include "mathservices/poly_markup.h"
 
@@ -191,15 +190,7 @@ void IntegrationBySubstitution(GeneratorWorkspace& ws) {
     for (int i = 1; i <= list.Count(); ++i) {
         if (i == 1) row = static_cast<int>(RandomInRange(ws, 1, kSubstitutionRows, 1, 1));
         else row = row == kSubstitutionRows ? 1 : row + 1;
-        RetryBound bound;
-        while (true) {
-            const IntegralItem item = MakeSubstitutionItem(ws, row);
-            if (!list.IsRepeat(item.statement)) {
-                list.Add(item.statement, item.solution);
-                break;
-            }
-            bound.Next();
-        }
+        AddNewItem(list, [&] { return MakeSubstitutionItem(ws, row); });
     }
     list.Write();
 }

@@ -128,15 +128,7 @@ void IntegralsOfRationalFunctionsI(GeneratorWorkspace& ws) {
     }
     IntegralList list(ws, 1, kRationalStatementColumns);
     for (int i = 1; i <= list.Count(); ++i) {
-        RetryBound bound;
-        while (true) {
-            const RationalIntegral r = MakePartialFractionIntegral(ws, i % 3);
-            if (!list.IsRepeat(r.statement)) {
-                list.Add(r.statement, r.solution);
-                break;
-            }
-            bound.Next();
-        }
+        AddNewItem(list, [&] { return MakePartialFractionIntegral(ws, i % 3); });
     }
     list.Write();
 }
@@ -151,15 +143,7 @@ void IntegralsOfRationalFunctionsII(GeneratorWorkspace& ws) {
     }
     IntegralList list(ws, 1, kRationalStatementColumns);
     for (int i = 1; i <= list.Count(); ++i) {
-        RetryBound bound;
-        while (true) {
-            const RationalIntegral r = MakeQuadraticDenominatorIntegral(ws);
-            if (!list.IsRepeat(r.statement)) {
-                list.Add(r.statement, r.solution);
-                break;
-            }
-            bound.Next();
-        }
+        AddNewItem(list, [&] { return MakeQuadraticDenominatorIntegral(ws); });
     }
     list.Write();
 }

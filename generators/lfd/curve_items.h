@@ -2,12 +2,9 @@
 #include <string>
 
 #include "generators/generator_contract.h"
+#include "generators/item_drill.h"
 
-// One lettered item: what the statement shows and what the solution answers.
-struct CurveItem {
-    std::string statement;
-    std::string solution;
-};
+using CurveItem = ItemTexts;
 
 inline constexpr int kTangentTypes = 6;
 

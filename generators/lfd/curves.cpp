@@ -166,15 +166,7 @@ void TangentAndNormalLines(GeneratorWorkspace& ws) {
     int type = static_cast<int>(RandomInRange(ws, 1, kTangentTypes, 1, 1));
     for (int i = 1; i <= drill.Count(); ++i) {
         type = type == kTangentTypes ? 1 : type + 1;
-        RetryBound bound;
-        while (true) {
-            const CurveItem item = MakeTangentItem(ws, type);
-            if (!drill.IsRepeat(item.statement)) {
-                drill.AddItem(item.statement, item.solution);
-                break;
-            }
-            bound.Next();
-        }
+        AddNewItem(drill, [&] { return MakeTangentItem(ws, type); });
     }
     drill.WriteStatement({"Calculate the tangent and normal lines to the following curves at the given points:&LF"});
 }
@@ -188,17 +180,11 @@ void MaximumsAndMinimums(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns2, kSolutionColumns1, 21);
     for (int i = 1; i <= drill.Count(); ++i) {
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             // Mostly cubics; about one in three a quartic.
             const int type = Coin(ws, 0.7f) ? 2 : 1;
-            const CurveItem item = MakeExtremaItem(ws, type);
-            if (!drill.IsRepeat(item.statement)) {
-                drill.AddItem(item.statement, item.solution);
-                break;
-            }
-            bound.Next();
-        }
+            return MakeExtremaItem(ws, type);
+        });
     }
     drill.WriteStatement({"Find the maximums and minimums of these functions:&LF"});
 }

@@ -6,7 +6,6 @@
 #include "generators/int/integral_list.h"
 #include "generators/lfd/lfd_routines.h"
 #include "mathservices/arithmetic.h"
-#include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
 #include "mathservices/poly_markup.h"
 
@@ -128,16 +127,10 @@ void DomainOfAFunction(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         type = type == kDomainTypes ? 1 : type + 1;
         if (Coin(ws, 0.8f)) type = static_cast<int>(RandomInRange(ws, 1, kDomainTypes, 1, 1));
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const DomainItem item = MakeDomainItem(ws, type);
-            const std::string text = "&+If&-I (&+Ix&-I) = " + item.function;
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, item.domain);
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{"&+If&-I (&+Ix&-I) = " + item.function, item.domain};
+        });
     }
     drill.WriteStatement({"Find the domain of the following functions:&LF"});
 }

@@ -162,8 +162,7 @@ void SimplifyingAlgebraicFractions(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextType(ws, type, 6);
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const std::vector<double> r = DistinctRoots(ws, 3);
             const double p = r[0], q = r[1], s = r[2];
             const double k = RandomInRange(ws, 1, 6, 1, 1) * (Coin(ws, 0.5f) ? -1 : 1);
@@ -177,14 +176,10 @@ void SimplifyingAlgebraicFractions(GeneratorWorkspace& ws) {
             default: top = E(1, {p, -p}); bottom = E(1, {-p, q}); break;
             }
             const std::string text = FractionText(ShownText(ws, top, true), ShownText(ws, bottom, true));
-            if (!drill.IsRepeat(text)) {
-                Factored n = top.value, d = bottom.value;
-                Cancel(ws, n, d);
-                drill.AddItem(text, SimplifiedText(ws, n, d, true));
-                break;
-            }
-            bound.Next();
-        }
+            Factored n = top.value, d = bottom.value;
+            Cancel(ws, n, d);
+            return ItemTexts{text, SimplifiedText(ws, n, d, true)};
+        });
     }
     drill.WriteStatement({"Simplify the following algebraic fractions:&LF"});
 }
@@ -219,8 +214,7 @@ void AlgebraicFractionsProducts(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 10, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextType(ws, type, 10);
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const std::vector<double> r = DistinctRoots(ws, 4);
             const double p = r[0], q = r[1], s = r[2], t = r[3];
             const double k = RandomInRange(ws, 2, 9, 1, 1) * (Coin(ws, 0.5f) ? -1 : 1);
@@ -241,15 +235,11 @@ void AlgebraicFractionsProducts(GeneratorWorkspace& ws) {
             const std::string text = FractionText(ShownText(ws, f.a, false), ShownText(ws, f.b, false)) +
                                      (f.quotient ? " : " : " · ") +
                                      FractionText(ShownText(ws, f.c, false), ShownText(ws, f.d, false));
-            if (!drill.IsRepeat(text)) {
-                Factored n = f.quotient ? Times(f.a.value, f.d.value) : Times(f.a.value, f.c.value);
-                Factored d = f.quotient ? Times(f.b.value, f.c.value) : Times(f.b.value, f.d.value);
-                Cancel(ws, n, d);
-                drill.AddItem(text, SimplifiedText(ws, n, d, false));
-                break;
-            }
-            bound.Next();
-        }
+            Factored n = f.quotient ? Times(f.a.value, f.d.value) : Times(f.a.value, f.c.value);
+            Factored d = f.quotient ? Times(f.b.value, f.c.value) : Times(f.b.value, f.d.value);
+            Cancel(ws, n, d);
+            return ItemTexts{text, SimplifiedText(ws, n, d, false)};
+        });
     }
     drill.WriteStatement({"Simplify the following expressions:&LF",
                           "Simplify the following expressions with algebraic fractions:&LF"});
@@ -307,8 +297,7 @@ void AlgebraicFractionsSums(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextType(ws, type, 6);
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const std::vector<double> r = DistinctRoots(ws, 2);
             const double p = r[0], q = r[1];
             const double a = RandomInRange(ws, 1, 9, 1, 1);
@@ -346,15 +335,10 @@ void AlgebraicFractionsSums(GeneratorWorkspace& ws) {
                     ++j;
                 }
             }
-            if (!IsZeroPoly(numerator) && !drill.IsRepeat(text)) {
-                const std::string answer =
-                    common.empty() ? PolyText(ws, numerator)
-                                   : FractionText(PolyText(ws, numerator), ProductText({1, common}));
-                drill.AddItem(text, answer);
-                break;
-            }
-            bound.Next();
-        }
+            if (IsZeroPoly(numerator)) return ItemTexts{};
+            return ItemTexts{text, common.empty() ? PolyText(ws, numerator)
+                                                  : FractionText(PolyText(ws, numerator), ProductText({1, common}))};
+        });
     }
     drill.WriteStatement({"Simplify the following expressions:&LF",
                           "Simplify the following expressions with algebraic fractions:&LF"});

@@ -22,20 +22,14 @@ constexpr double kStraightAngle = 648000;  // 180° in seconds
 
 // The shared body of the four angle drills: one operation for all items.
 void AngleDrill(GeneratorWorkspace& ws, int operation) {
-    ItemDrill drill(ws, kAngleStatementColumns, kAngleSolutionColumns, 27);
+    ItemDrill drill(ws, kAngleStatementColumns, kAngleSolutionColumns, 27, kUprightItems);
     for (int i = 1; i <= drill.Count(); ++i) {
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const AngleItem item = MakeAngleItem(ws, operation);
-            const std::string text = AngleItemText(item, operation);
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, SecondsToDegreeMarkup(item.result));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{AngleItemText(item, operation), SecondsToDegreeMarkup(item.result)};
+        });
     }
-    WriteDrillItems(ws, drill.Items(), kAngleHeads, kAngleStatementColumns, ")&-B ", "");
+    drill.WriteStatement(kAngleHeads);
 }
 } // namespace
 
@@ -121,23 +115,15 @@ void ComplementaryAndSupplementaryAngles(GeneratorWorkspace& ws) {
     }
     const ColumnMarks statementColumns = {"&SP=5:", "&SP=29:", "&SP=53:", "&SP=76:"};
     const ColumnMarks solutionColumns = {"&SP=10:", "&SP=39:", "&SP=68:"};
-    ItemDrill drill(ws, statementColumns, solutionColumns, 27);
+    ItemDrill drill(ws, statementColumns, solutionColumns, 27, kUprightItems);
     for (int i = 1; i <= drill.Count(); ++i) {
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const double angle = RandomInRange(ws, 2000, 300000, 1, 1);
-            const std::string text = SecondsToDegreeMarkup(angle);
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, SecondsToDegreeMarkup(kRightAngle - angle) + ",  " +
-                                        SecondsToDegreeMarkup(kStraightAngle - angle));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{SecondsToDegreeMarkup(angle), SecondsToDegreeMarkup(kRightAngle - angle) + ",  " +
+                                                               SecondsToDegreeMarkup(kStraightAngle - angle)};
+        });
     }
-    WriteDrillItems(ws, drill.Items(),
-                    {"Calculate the complementary and supplementary angle of the following angles:&LF"},
-                    statementColumns, ")&-B ", "");
+    drill.WriteStatement({"Calculate the complementary and supplementary angle of the following angles:&LF"});
 }
 
 // The figures of routine 32, by Seed modulo 5:

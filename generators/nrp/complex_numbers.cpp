@@ -21,7 +21,7 @@ const std::vector<std::string> kComplexHeads = {
     "Calculate the following expressions with complex numbers.&LF", "Calculate the following expressions.&LF",
     "Calculate these expressions involving complex numbers.&LF", "Calculate these expressions.&LF"};
 // Complex items are not in italics; the imaginary unit carries its own.
-const std::string kComplexAfterLetter = ")&-B  ";
+const ItemLook kComplexItems = {")&-B  ", "", "&LF", "&LF"};
 
 // A complex number whose parts are fractions, each part reduced and written stacked.
 std::string ComplexFractionText(GeneratorWorkspace& ws, double reN, double reD, double imN, double imD) {
@@ -93,12 +93,11 @@ void AddingAndSubtractingComplexNumbers(GeneratorWorkspace& ws) {
                       "Exercises to calculate additions and subtractions of complex numbers in cartesian form (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27);
+    ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27, kComplexItems);
     for (int i = 1; i <= drill.Count(); ++i) {
         const bool fractions = Coin(ws, 0.7f);
         const double operation = RandomInRange(ws, 1, 2, 1, 1);
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             double n[4], d[4];
             for (int k = 0; k < 4; ++k) {
                 n[k] = RandomInRange(ws, -12, 28, 1, 1);
@@ -114,16 +113,12 @@ void AddingAndSubtractingComplexNumbers(GeneratorWorkspace& ws) {
                 return "#NES(()" + FractionToMarkup(ws, n[at], d[at]) + (imN < 0 ? " - " : " + ") + im + "#NES)";
             };
             const std::string text = numberText(0) + (operation == 1 ? "  +  " : "  -  ") + numberText(2);
-            if (!drill.IsRepeat(text)) {
-                const double sign = operation == 1 ? 1 : -1;
-                drill.AddItem(text, ComplexFractionText(ws, n[0] * d[2] + sign * n[2] * d[0], d[0] * d[2],
-                                                        n[1] * d[3] + sign * n[3] * d[1], d[1] * d[3]));
-                break;
-            }
-            bound.Next();
-        }
+            const double sign = operation == 1 ? 1 : -1;
+            return ItemTexts{text, ComplexFractionText(ws, n[0] * d[2] + sign * n[2] * d[0], d[0] * d[2],
+                                                       n[1] * d[3] + sign * n[3] * d[1], d[1] * d[3])};
+        });
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns2, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // Routine 34: products, and quotients as a stacked fraction; about four quotients in ten
@@ -135,12 +130,11 @@ void MultiplyingAndDividingComplexNumbers(GeneratorWorkspace& ws) {
                       "Exercises to calculate multiplications and divisions of complex numbers in cartesian form (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27);
+    ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             Complex b(RandomInRange(ws, -12, 15, 1, 1), RandomInRange(ws, -12, 15, 1, 1));
             Complex a(RandomInRange(ws, -12, 28, 1, 1), RandomInRange(ws, -12, 15, 1, 1));
             if (kind == 2 && Coin(ws, 0.6f)) {
@@ -151,22 +145,17 @@ void MultiplyingAndDividingComplexNumbers(GeneratorWorkspace& ws) {
             const std::string bText = ComplexToMarkup(ws, b.real(), b.imag());
             const std::string text = kind == 1 ? "(" + aText + ")  ·  (" + bText + ")"
                                                : "#COC(" + aText + "#N)(" + bText + "#COC)";
-            if (!drill.IsRepeat(text)) {
-                if (kind == 1) {
-                    const Complex p = a * b;
-                    drill.AddItem(text, ComplexFractionText(ws, p.real(), 1, p.imag(), 1));
-                } else {
-                    // a / b = a · conj(b) / |b|²
-                    const Complex p = a * std::conj(b);
-                    const double m = std::norm(b);
-                    drill.AddItem(text, ComplexFractionText(ws, p.real(), m, p.imag(), m));
-                }
-                break;
+            if (kind == 1) {
+                const Complex p = a * b;
+                return ItemTexts{text, ComplexFractionText(ws, p.real(), 1, p.imag(), 1)};
             }
-            bound.Next();
-        }
+            // a / b = a · conj(b) / |b|²
+            const Complex p = a * std::conj(b);
+            const double m = std::norm(b);
+            return ItemTexts{text, ComplexFractionText(ws, p.real(), m, p.imag(), m)};
+        });
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns2, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 namespace {
@@ -202,13 +191,12 @@ void CartesianPolarConversions(GeneratorWorkspace& ws) {
                       "Exercises to convert complex numbers from the cartesian form to the polar form and vice versa (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27);
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27, kComplexItems);
     double direction = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         if (!Coin(ws, 0.8f)) direction = direction == 1 ? 2 : 1;
         const int unit = Coin(ws, 0.4f) ? 1 : 0;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             std::string text, answer;
             if (direction == 1) {
                 const Complex z = DrawComplex(ws, -12, 28);
@@ -229,14 +217,10 @@ void CartesianPolarConversions(GeneratorWorkspace& ws) {
                 if (t.sine.a < 0) answer += "& -& " + im + kImaginaryUnit;
                 else if (t.sine.a > 0) answer += (t.cosine.a != 0 ? "& +& " : "") + im + kImaginaryUnit;
             }
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, answer);
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{text, answer};
+        });
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns4, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // Routine 36: products and quotients of complex numbers in polar form; a quotient is
@@ -248,13 +232,12 @@ void MultiplyingAndDividingComplexNumbersInPolarForm(GeneratorWorkspace& ws) {
                       "Exercises to calculate multiplications and divisions of complex numbers in polar form (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns2, kSolutionColumns2, 27);
+    ItemDrill drill(ws, kStatementColumns2, kSolutionColumns2, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
         const int unit = Coin(ws, 0.8f) ? 0 : 1;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const Complex a = DrawComplex(ws, -5, 12);
             const Complex b = DrawComplex(ws, -5, 12);
             // A quotient: the dividend is the product, so that the quotient is a.
@@ -263,15 +246,11 @@ void MultiplyingAndDividingComplexNumbersInPolarForm(GeneratorWorkspace& ws) {
             const std::string text = "#NES(()" + ComplexPolarToMarkup(ws, first.real(), first.imag(), unit) +
                                      (kind == 1 ? "#NES)  ·  #NES(()" : "#NES)  :  #NES(()") +
                                      ComplexPolarToMarkup(ws, b.real(), b.imag(), unit) + "#NES)";
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, PolarText(ws, result.real(), result.imag(), unit) + "  =  " +
-                                        ComplexToMarkup(ws, result.real(), result.imag()));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{text, PolarText(ws, result.real(), result.imag(), unit) + "  =  " +
+                                       ComplexToMarkup(ws, result.real(), result.imag())};
+        });
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns2, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // Routine 37: a power 2 to 5 of a complex number given in cartesian or polar form; the
@@ -282,37 +261,31 @@ void PowersOfComplexNumbers(GeneratorWorkspace& ws) {
                       "Exercises of powers of complex numbers in cartesian and polar forms (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27);
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
         const int unit = Coin(ws, 0.8f) ? 0 : 1;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const double re = RandomInRange(ws, -5, 12, 1, 0);
             const double im = RandomInRange(ws, -5, 12, 1, 1);
             const int n = static_cast<int>(RandomInRange(ws, 2, 5, 1, 1));
             const double m = re * re + im * im;
             // Parts of the power stay below 100000.
-            if (std::pow(m, n / 2.0) <= 100000) {
-                const std::string exponent = "^" + std::to_string(n);
-                const std::string text = kind == 1 ? "(" + ComplexToMarkup(ws, re, im) + ")" + exponent
-                                                   : "#NES(()" + ComplexPolarToMarkup(ws, re, im, unit) + "#NES)" + exponent;
-                if (!drill.IsRepeat(text)) {
-                    Complex p(1, 0);
-                    for (int k = 0; k < n; ++k) p *= Complex(re, im);
-                    const double half = std::floor(n / 2.0);
-                    const std::string modulus = n % 2 == 0 ? PlainNumberText(std::pow(m, half))
-                                                           : SimplifiedRoot(ws, std::pow(m, half), m);
-                    drill.AddItem(text, PolarText(ws, modulus, p.real(), p.imag(), unit) + "  =  " +
-                                            ComplexToMarkup(ws, p.real(), p.imag()));
-                    break;
-                }
-            }
-            bound.Next();
-        }
+            if (std::pow(m, n / 2.0) > 100000) return ItemTexts{};
+            const std::string exponent = "^" + std::to_string(n);
+            const std::string text = kind == 1 ? "(" + ComplexToMarkup(ws, re, im) + ")" + exponent
+                                               : "#NES(()" + ComplexPolarToMarkup(ws, re, im, unit) + "#NES)" + exponent;
+            Complex p(1, 0);
+            for (int k = 0; k < n; ++k) p *= Complex(re, im);
+            const double half = std::floor(n / 2.0);
+            const std::string modulus = n % 2 == 0 ? PlainNumberText(std::pow(m, half))
+                                                   : SimplifiedRoot(ws, std::pow(m, half), m);
+            return ItemTexts{text, PolarText(ws, modulus, p.real(), p.imag(), unit) + "  =  " +
+                                       ComplexToMarkup(ws, p.real(), p.imag())};
+        });
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns4, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // Routine 38: the n-th roots (n from 2 to 5) of a complex number given in cartesian or
@@ -323,21 +296,16 @@ void RootsOfComplexNumbers(GeneratorWorkspace& ws) {
                       "Exercises to calculate roots of complex numbers (2 types)"});
         return;
     }
-    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns1, 27);
+    ItemDrill drill(ws, kStatementColumns4, kSolutionColumns1, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         NextKind(ws, kind);
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const Complex z = DrawComplex(ws, -5, 12);
             const int n = static_cast<int>(RandomInRange(ws, 2, 5, 1, 1));
             const std::string number = kind == 1 ? ComplexToMarkup(ws, z.real(), z.imag())
                                                  : ComplexPolarToMarkup(ws, z.real(), z.imag(), 1);
             const std::string text = "#RAD(#RI(" + std::to_string(n) + " #RI)" + number + "#RAD)";
-            if (drill.IsRepeat(text)) {
-                bound.Next();
-                continue;
-            }
             // The modulus of the roots is the 2n-th root of |z|²: taken down while the
             // radicand is a square, whole when the index reaches 1.
             double index = 2.0 * n;
@@ -358,11 +326,10 @@ void RootsOfComplexNumbers(GeneratorWorkspace& ws) {
                 if (k > 0) answer += ",   ";
                 answer += modulus + "#SPB(L #T)(" + NumberToSignificantMarkup(angle, 6) + kDegreeSign + "#SPB)";
             }
-            drill.AddItem(text, answer);
-            break;
-        }
+            return ItemTexts{text, answer};
+        });
     }
-    WriteDrillItems(ws, drill.Items(), kComplexHeads, kStatementColumns4, kComplexAfterLetter, "");
+    drill.WriteStatement(kComplexHeads);
 }
 
 // The five problems of routine 39 (k the parameter, z = a + b·i, w = c + d·i):

@@ -1,14 +1,10 @@
 #include "generators/item_drill.h"
+#include "generators/nrp/drill_numbers.h"
 #include "generators/nrp/nrp_routines.h"
 #include "mathservices/arithmetic.h"
-#include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
 
 namespace {
-const std::vector<std::string> kDecimalHeadLines = {
-    "Calculate the following expressions involving decimal numbers.&LF", "Calculate the following expressions.&LF",
-    "Calculate these expressions involving decimal numbers.&LF", "Calculate these expressions.&LF"};
-
 // A whole number ending in 0 gets a last digit of 1 to 9, so that the decimal made from
 // it shows all its places.
 double EndInDigit(GeneratorWorkspace& ws, double x) {
@@ -31,26 +27,15 @@ void AdditionAndSubtractionOfDecimalNumbers(GeneratorWorkspace& ws) {
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         operation = NextAddOrSubtract(ws, operation);
-        std::string text;
-        double result = 0;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             double a = RandomInRange(ws, 100000, 999999, 1, 1);
             double b = RandomInRange(ws, 100000, 999999, 1, 1);
-            for (int coin = 0; coin < 3; ++coin) {
-                if (Coin(ws, 0.6f)) a = Int(a / 10);
-            }
-            for (int coin = 0; coin < 3; ++coin) {
-                if (Coin(ws, 0.6f)) b = Int(b / 10);
-            }
+            a = DropDigits(ws, a, 3);
+            b = DropDigits(ws, b, 3);
             a = EndInDigit(ws, a);
             b = EndInDigit(ws, b);
-            for (int coin = 0; coin < 3; ++coin) {
-                if (Coin(ws, 0.6f)) a = RoundAtPosition(ws, a / 10, -6);
-            }
-            for (int coin = 0; coin < 3; ++coin) {
-                if (Coin(ws, 0.6f)) b = RoundAtPosition(ws, b / 10, -6);
-            }
+            a = ShiftDecimalPoint(ws, a, 3);
+            b = ShiftDecimalPoint(ws, b, 3);
             // A difference is never negative: mostly the minuend is made as the sum of the
             // two, which keeps the subtrahend; otherwise the larger number goes first.
             const bool keepSubtrahend = Coin(ws, 0.6f);
@@ -61,15 +46,13 @@ void AdditionAndSubtractionOfDecimalNumbers(GeneratorWorkspace& ws) {
                     std::swap(a, b);
                 }
             }
-            text = NumberToMarkup(b) + (operation == 1 ? " + " : " - ") + NumberToMarkup(a);
-            result = RoundAtPosition(ws, operation == 1 ? b + a : b - a, -6);
-            const bool refused = a == b || (!HasDecimals(a) && !HasDecimals(b));
-            if (!refused && !drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, NumberToMarkup(result));
+            const double result = RoundAtPosition(ws, operation == 1 ? b + a : b - a, -6);
+            if (a == b || (!HasDecimals(a) && !HasDecimals(b))) return ItemTexts{};
+            return ItemTexts{NumberToMarkup(b) + (operation == 1 ? " + " : " - ") + NumberToMarkup(a),
+                             NumberToMarkup(result)};
+        });
     }
-    drill.WriteStatement(kDecimalHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("decimal numbers"));
 }
 
 // Routine 15: products of two decimals of four digits with up to three decimal places.
@@ -81,32 +64,22 @@ void MultiplicationOfDecimalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     for (int i = 1; i <= drill.Count(); ++i) {
-        std::string text;
-        double product = 0;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             double a = EndInDigit(ws, RandomInRange(ws, 1000, 9999, 1, 1));
             double b = EndInDigit(ws, RandomInRange(ws, 1000, 9999, 1, 1));
-            for (int coin = 0; coin < 2; ++coin) {
-                if (Coin(ws, 0.6f)) a = RoundAtPosition(ws, a / 10, -6);
-            }
-            for (int coin = 0; coin < 2; ++coin) {
-                if (Coin(ws, 0.6f)) b = RoundAtPosition(ws, b / 10, -6);
-            }
+            a = ShiftDecimalPoint(ws, a, 2);
+            b = ShiftDecimalPoint(ws, b, 2);
             // One of the two always has a decimal more, so that no item is whole.
             if (Coin(ws, 0.5f)) {
                 a = RoundAtPosition(ws, a / 10, -6);
             } else {
                 b = RoundAtPosition(ws, b / 10, -6);
             }
-            text = NumberToMarkup(a) + " × " + NumberToMarkup(b);
-            product = RoundAtPosition(ws, a * b, -9);
-            if (!drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, NumberToMarkup(product));
+            const double product = RoundAtPosition(ws, a * b, -9);
+            return ItemTexts{NumberToMarkup(a) + " × " + NumberToMarkup(b), NumberToMarkup(product)};
+        });
     }
-    drill.WriteStatement(kDecimalHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("decimal numbers"));
 }
 
 // Routine 2: quotients of decimals that end: the dividend is made from divisor and
@@ -119,27 +92,19 @@ void DivisionOfDecimalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     for (int i = 1; i <= drill.Count(); ++i) {
-        std::string text;
-        double quotient = 0;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             double divisor = RandomInRange(ws, 1000, 9999, 1, 1);
-            quotient = RandomInRange(ws, 1000, 9999, 1, 1);
+            double quotient = RandomInRange(ws, 1000, 9999, 1, 1);
             // The divisor loses up to two digits, then both end in a digit that is not 0.
-            if (Coin(ws, 0.6f)) divisor = Int(divisor / 10);
-            if (Coin(ws, 0.6f)) divisor = Int(divisor / 10);
+            divisor = DropDigits(ws, divisor, 2);
             divisor = EndInDigit(ws, divisor);
             quotient = EndInDigit(ws, quotient);
-            if (Coin(ws, 0.6f)) divisor = RoundAtPosition(ws, divisor / 10, -6);
-            if (Coin(ws, 0.6f)) quotient = RoundAtPosition(ws, quotient / 10, -6);
-            if (Coin(ws, 0.6f)) quotient = RoundAtPosition(ws, quotient / 10, -6);
+            divisor = ShiftDecimalPoint(ws, divisor, 1);
+            quotient = ShiftDecimalPoint(ws, quotient, 2);
             if (!HasDecimals(divisor) && !HasDecimals(quotient)) quotient = RoundAtPosition(ws, quotient / 10, -6);
             const double dividend = RoundAtPosition(ws, divisor * quotient, -9);
-            text = NumberToMarkup(dividend) + " : " + NumberToMarkup(divisor);
-            if (!drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, NumberToMarkup(quotient));
+            return ItemTexts{NumberToMarkup(dividend) + " : " + NumberToMarkup(divisor), NumberToMarkup(quotient)};
+        });
     }
-    drill.WriteStatement(kDecimalHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("decimal numbers"));
 }

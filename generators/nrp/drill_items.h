@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "generators/generator_contract.h"
+#include "generators/item_drill.h"
 
 // The numbers behind single items of the drills, drawn apart from their texts so that
 // their mathematics can be checked on its own.
@@ -14,12 +15,6 @@ struct LcmGcmItem {
     double gcm = 0;
 };
 LcmGcmItem DrawLcmGcmNumbers(GeneratorWorkspace& ws, int count);
-
-// The statement and the solution text of one item.
-struct ItemTexts {
-    std::string statement;
-    std::string solution;
-};
 
 // One item of the square-root rationalisation drill of the given type (1 to 6), or an
 // empty statement when the draw is refused.

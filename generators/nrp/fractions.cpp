@@ -4,7 +4,6 @@
 #include "generators/nrp/drill_items.h"
 #include "generators/nrp/nrp_routines.h"
 #include "mathservices/arithmetic.h"
-#include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
 
 namespace {
@@ -59,16 +58,13 @@ void AdditionAndSubtractionOfFractions(GeneratorWorkspace& ws) {
     ItemDrill drill(ws, kStatementColumns4, {"&SP=10:", "&SP=29:", "&SP=53:", "&SP=76:"});
     const int terms = ws.Seed % 2 == 0 ? 2 : 3;
     for (int i = 1; i <= drill.Count(); ++i) {
-        std::string text;
-        Ratio sum{0, 1};
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             Ratio x[3];
             x[0] = Reduced(ws, RandomInRange(ws, -12, 28, 1, 1), RandomInRange(ws, 1, 15, 1, 1));
             x[1] = Reduced(ws, RandomInRange(ws, -12, 28, 1, 1), RandomInRange(ws, 1, 12, 1, 1));
             x[2] = Reduced(ws, RandomInRange(ws, -12, 28, 1, 1), RandomInRange(ws, 1, 12, 1, 1));
-            text.clear();
-            sum = {0, 1};
+            std::string text;
+            Ratio sum{0, 1};
             bool whole = true;
             for (int k = 0; k < terms; ++k) {
                 text += Joined(ws, x[k], k == 0);
@@ -76,10 +72,9 @@ void AdditionAndSubtractionOfFractions(GeneratorWorkspace& ws) {
                 if (x[k].d != 1) whole = false;
             }
             // A sum of whole numbers alone is no exercise on fractions.
-            if (!whole && !drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, FractionToMarkup(ws, sum.n, sum.d));
+            if (whole) return ItemTexts{};
+            return ItemTexts{text, FractionToMarkup(ws, sum.n, sum.d)};
+        });
     }
     drill.WriteStatement(kRationalHeadLines);
 }
@@ -99,10 +94,9 @@ void FourOperationsWithFractions(GeneratorWorkspace& ws) {
     for (int i = 1; i <= drill.Count(); ++i) {
         form += 1;
         if (form > 7) form = 1;
-        std::string text;
-        Ratio value{0, 1};
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
+            std::string text;
+            Ratio value{0, 1};
             // The last fraction takes a smaller denominator.
             Ratio x[4];
             for (int k = 0; k < 4; ++k) {
@@ -158,10 +152,9 @@ void FourOperationsWithFractions(GeneratorWorkspace& ws) {
                 if (x[k].d != 1) whole = false;
                 if (x[k].d == 1 && std::fabs(x[k].n) == 1) refused = true;
             }
-            if (!refused && !whole && !drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, FractionToMarkup(ws, value.n, value.d));
+            if (refused || whole) return ItemTexts{};
+            return ItemTexts{text, FractionToMarkup(ws, value.n, value.d)};
+        });
     }
     drill.WriteStatement(kRationalHeadLines);
 }
@@ -250,14 +243,11 @@ void ConvertingDecimalNumbersToFractions(GeneratorWorkspace& ws) {
         } else if (jump) {
             shape = RandomInRange(ws, 1, 3, 1, 1);
         }
-        DecimalToFractionItem item;
-        RetryBound bound;
-        while (true) {
-            item = DrawDecimalToFraction(ws, static_cast<int>(shape));
-            if (!item.text.empty() && !drill.IsRepeat(item.text)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.text, FractionToMarkup(ws, item.numerator, item.denominator));
+        AddNewItem(drill, [&] {
+            const DecimalToFractionItem item = DrawDecimalToFraction(ws, static_cast<int>(shape));
+            if (item.text.empty()) return ItemTexts{};
+            return ItemTexts{item.text, FractionToMarkup(ws, item.numerator, item.denominator)};
+        });
     }
     drill.WriteStatement({"Convert the following values to fractions:&LF"});
 }

@@ -1,16 +1,12 @@
 #include <cmath>
 
 #include "generators/item_drill.h"
+#include "generators/nrp/drill_numbers.h"
 #include "generators/nrp/nrp_routines.h"
 #include "mathservices/arithmetic.h"
-#include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
 
 namespace {
-const std::vector<std::string> kIntegerHeadLines = {
-    "Calculate the following expressions involving integer numbers.&LF", "Calculate the following expressions.&LF",
-    "Calculate these expressions involving integer numbers.&LF", "Calculate these expressions.&LF"};
-
 // A number of the statement: below 0 it stands in parentheses.
 std::string Term(double x) {
     const std::string text = PlainNumberText(x);
@@ -40,10 +36,9 @@ void AdditionAndSubtractionOfIntegerNumbers(GeneratorWorkspace& ws) {
     double form = RandomInRange(ws, 1, 5, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         form = NextForm(form, 5);
-        std::string text;
-        double value = 0;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
+            std::string text;
+            double value = 0;
             const double a = RandomInRange(ws, -15, 15, 1, 1);
             const double b = RandomInRange(ws, -15, 15, 1, 1);
             const double c = RandomInRange(ws, -15, 15, 1, 1);
@@ -73,12 +68,10 @@ void AdditionAndSubtractionOfIntegerNumbers(GeneratorWorkspace& ws) {
                 value = s3 * (a + s1 * (b + s2 * c));
                 break;
             }
-            if (!drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, PlainNumberText(value));
+            return ItemTexts{text, PlainNumberText(value)};
+        });
     }
-    drill.WriteStatement(kIntegerHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("integer numbers"));
 }
 
 // Routine 11: products and quotients of integers, with sums inside parentheses and
@@ -98,15 +91,14 @@ void MultiplicationAndDivisionOfIntegerNumbers(GeneratorWorkspace& ws) {
     double form = RandomInRange(ws, 1, 10, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         form = NextForm(form, 10);
-        std::string text;
-        double value = 0;
-        RetryBound bound;
         // A divisor of 2 to 10; most of them positive, a coin makes one in five negative.
         const auto divisor = [&ws]() {
             const double d = RandomInRange(ws, 2, 10, 1, 1);
             return Coin(ws, 0.2f) ? d : -d;
         };
-        while (true) {
+        AddNewItem(drill, [&] {
+            std::string text;
+            double value = 0;
             bool refused = false;
             switch (static_cast<int>(form)) {
             case 1: {
@@ -205,10 +197,9 @@ void MultiplicationAndDivisionOfIntegerNumbers(GeneratorWorkspace& ws) {
                 break;
             }
             }
-            if (!refused && !drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, PlainNumberText(value));
+            if (refused) return ItemTexts{};
+            return ItemTexts{text, PlainNumberText(value)};
+        });
     }
-    drill.WriteStatement(kIntegerHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("integer numbers"));
 }

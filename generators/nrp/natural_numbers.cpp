@@ -1,5 +1,6 @@
 #include "generators/item_drill.h"
 #include "generators/nrp/drill_items.h"
+#include "generators/nrp/drill_numbers.h"
 #include "generators/nrp/nrp_routines.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
@@ -17,41 +18,22 @@ void AdditionAndSubtractionOfNaturalNumbers(GeneratorWorkspace& ws) {
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         operation = NextAddOrSubtract(ws, operation);
-        std::string text;
-        double result = 0;
         // An item equal to an earlier one is drawn anew (the numbers too: building the
         // same numbers again could only give the same text).
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             double a = RandomInRange(ws, 100000, 999999, 1, 1);
             double b = RandomInRange(ws, 100000, 999999, 1, 1);
-            for (int coin = 0; coin < 3; ++coin) {
-                if (Coin(ws, 0.6f)) b = Int(b / 10);
-            }
-            for (int coin = 0; coin < 3; ++coin) {
-                if (Coin(ws, 0.6f)) a = Int(a / 10);
-            }
+            b = DropDigits(ws, b, 3);
+            a = DropDigits(ws, a, 3);
             if (operation == 2) b = a + b;
             const std::string aText = GroupDigits(PlainNumberText(a));
             const std::string bText = GroupDigits(PlainNumberText(b));
-            text = bText + (operation == 1 ? " + " : " - ") + aText;
-            result = operation == 1 ? a + b : b - a;
-            if (!drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, GroupDigits(PlainNumberText(result)));
+            const double result = operation == 1 ? a + b : b - a;
+            return ItemTexts{bText + (operation == 1 ? " + " : " - ") + aText, GroupDigits(PlainNumberText(result))};
+        });
     }
-    drill.WriteStatement({"Calculate the following expressions involving natural numbers.&LF",
-                          "Calculate the following expressions.&LF",
-                          "Calculate these expressions involving natural numbers.&LF",
-                          "Calculate these expressions.&LF"});
+    drill.WriteStatement(ExpressionHeadLines("natural numbers"));
 }
-
-namespace {
-const std::vector<std::string> kNaturalHeadLines = {
-    "Calculate the following expressions involving natural numbers.&LF", "Calculate the following expressions.&LF",
-    "Calculate these expressions involving natural numbers.&LF", "Calculate these expressions.&LF"};
-} // namespace
 
 // Routine 13: products of a number of three to five digits by one of two to four digits.
 void MultiplicationOfNaturalNumbers(GeneratorWorkspace& ws) {
@@ -62,28 +44,20 @@ void MultiplicationOfNaturalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns3);
     for (int i = 1; i <= drill.Count(); ++i) {
-        std::string text;
-        double product = 0;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             double a = RandomInRange(ws, 10000, 99999, 1, 1);
             double b = RandomInRange(ws, 1000, 9999, 1, 1);
             // Two coins shorten each number by a digit; the last one puts the shorter first.
-            if (Coin(ws, 0.6f)) a = Int(a / 10);
-            if (Coin(ws, 0.6f)) a = Int(a / 10);
-            if (Coin(ws, 0.6f)) b = Int(b / 10);
-            if (Coin(ws, 0.6f)) b = Int(b / 10);
+            a = DropDigits(ws, a, 2);
+            b = DropDigits(ws, b, 2);
             const bool shorterFirst = Coin(ws, 0.5f);
             const std::string aText = GroupDigits(PlainNumberText(a));
             const std::string bText = GroupDigits(PlainNumberText(b));
-            text = shorterFirst ? bText + " × " + aText : aText + " × " + bText;
-            product = a * b;
-            if (!drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, GroupDigits(PlainNumberText(product)));
+            return ItemTexts{shorterFirst ? bText + " × " + aText : aText + " × " + bText,
+                             GroupDigits(PlainNumberText(a * b))};
+        });
     }
-    drill.WriteStatement(kNaturalHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("natural numbers"));
 }
 
 // Routine 1: long division of a number of four to six digits by one of two or three
@@ -96,26 +70,19 @@ void DivisionOfNaturalNumbers(GeneratorWorkspace& ws) {
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns3);
     for (int i = 1; i <= drill.Count(); ++i) {
-        std::string text;
-        double q = 0;
-        double r = 0;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             double a = RandomInRange(ws, 100000, 999999, 1, 1);
             double b = RandomInRange(ws, 100, 999, 1, 1);
-            if (Coin(ws, 0.6f)) b = Int(b / 10);
-            if (Coin(ws, 0.6f)) a = Int(a / 10);
-            if (Coin(ws, 0.6f)) a = Int(a / 10);
-            q = Int(a / b);
-            r = a - q * b;
-            text = GroupDigits(PlainNumberText(a)) + " : " + GroupDigits(PlainNumberText(b));
-            if (!drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text,
-                      "&+I q = " + GroupDigits(PlainNumberText(q)) + ",  r = &-I" + GroupDigits(PlainNumberText(r)));
+            b = DropDigits(ws, b, 1);
+            a = DropDigits(ws, a, 2);
+            const double q = Int(a / b);
+            const double r = a - q * b;
+            return ItemTexts{GroupDigits(PlainNumberText(a)) + " : " + GroupDigits(PlainNumberText(b)),
+                             "&+I q = " + GroupDigits(PlainNumberText(q)) + ",  r = &-I" +
+                                 GroupDigits(PlainNumberText(r))};
+        });
     }
-    drill.WriteStatement(kNaturalHeadLines);
+    drill.WriteStatement(ExpressionHeadLines("natural numbers"));
 }
 
 namespace {
@@ -186,20 +153,15 @@ void LcmAndGcmOfNaturalNumbers(GeneratorWorkspace& ws) {
         if (Coin(ws, 0.9f)) countChoice = 2;
         if (Coin(ws, 0.5f)) countChoice = 1;
         const int count = countChoice == 2 ? 3 : 2;
-        std::string text;
-        LcmGcmItem item;
-        RetryBound bound;
-        while (true) {
-            item = DrawLcmGcmNumbers(ws, count);
-            text.clear();
+        AddNewItem(drill, [&] {
+            const LcmGcmItem item = DrawLcmGcmNumbers(ws, count);
+            std::string text;
             for (std::size_t k = 0; k < item.numbers.size(); ++k) {
                 if (k > 0) text += ",  ";
                 text += PlainNumberText(item.numbers[k]);
             }
-            if (!drill.IsRepeat(text)) break;
-            bound.Next();
-        }
-        drill.AddItem(text, PlainNumberText(item.lcm) + ",  " + PlainNumberText(item.gcm));
+            return ItemTexts{text, PlainNumberText(item.lcm) + ",  " + PlainNumberText(item.gcm)};
+        });
     }
     drill.WriteStatement({"Calculate the least common multiple and the greatest common measure (lcm and gcm) of the "
                           "following numbers:&LF",

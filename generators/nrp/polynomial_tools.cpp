@@ -123,17 +123,3 @@ std::string BinomialText(double root) {
     return PolynomialToMarkup(0, 0, 0, 1, -root, "");
 }
 
-void WriteDrillItems(GeneratorWorkspace& ws, const std::vector<std::string>& items,
-                     const std::vector<std::string>& headLines, const ColumnMarks& columns,
-                     const std::string& afterLetter, const std::string& afterItem) {
-    const double form = RandomInRange(ws, 1, static_cast<double>(headLines.size()), 1, 1);
-    ws.Statement += headLines[static_cast<std::size_t>(form) - 1];
-    const int n = static_cast<int>(items.size());
-    const int c = static_cast<int>(columns.size());
-    for (int i = 1; i <= n; ++i) {
-        ws.Statement += columns[static_cast<std::size_t>((i - 1) % c)] + "&+B" + ItemLetter(i) + afterLetter +
-                        items[static_cast<std::size_t>(i) - 1] + afterItem;
-        if (i % c == 0 || i == n) ws.Statement += "&LF";
-    }
-    ws.Statement += "&LF";
-}

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "generators/generator_contract.h"
-#include "generators/item_drill.h"
 #include "mathservices/poly_work.h"
 
 // Small polynomial routines shared by the polynomial and algebraic-fraction drills.
@@ -50,9 +49,3 @@ double PolyContent(GeneratorWorkspace& ws, const Coefficients& a);
 std::string PolyText(GeneratorWorkspace& ws, const Coefficients& a);
 // "x - 3", "x + 2", or "x" for the root 0.
 std::string BinomialText(double root);
-
-// The head line of a drill whose wording is already chosen, and the items written with
-// their own marks behind the letter (for drills whose items are not in italics).
-void WriteDrillItems(GeneratorWorkspace& ws, const std::vector<std::string>& items,
-                     const std::vector<std::string>& headLines, const ColumnMarks& columns,
-                     const std::string& afterLetter, const std::string& afterItem);

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "generators/item_drill.h"
+#include "generators/nrp/drill_numbers.h"
 #include "generators/nrp/algebra_items.h"
 #include "generators/nrp/nrp_routines.h"
 #include "generators/nrp/polynomial_tools.h"
@@ -12,19 +13,6 @@
 #include "mathservices/poly_markup.h"
 
 namespace {
-const std::vector<std::string> kPolynomialHeads = {
-    "Calculate the following expressions involving polynomials.&LF", "Calculate the following expressions.&LF",
-    "Calculate these expressions involving polynomials.&LF", "Calculate these expressions.&LF"};
-
-// The alternation of two operations of the drills: one step on, and a small chance of
-// going back (both coins always drawn).
-void NextOperation(GeneratorWorkspace& ws, double& operation) {
-    operation += 1;
-    if (operation > 2) operation = 1;
-    if (operation == 1 && Coin(ws, 0.9f)) operation = 2;
-    if (operation == 2 && Coin(ws, 0.9f)) operation = 1;
-}
-
 // A polynomial of the given degree: a nonzero lead, the other terms in -9 to 29, each of
 // which vanishes on a coin.
 Coefficients DrawSumPolynomial(GeneratorWorkspace& ws, int degree) {
@@ -63,20 +51,16 @@ void AdditionAndSubtractionOfPolynomials(GeneratorWorkspace& ws) {
     ItemDrill drill(ws, {"&SP=5:"}, {"&SP=10:", "&SP=50:"});
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
-        NextOperation(ws, operation);
-        RetryBound bound;
-        while (true) {
+        operation = NextAddOrSubtract(ws, operation);
+        AddNewItem(drill, [&] {
             const PolynomialSumItem item = MakePolynomialSumItem(ws, operation);
             const std::string text = "( " + PolyText(ws, item.a) + (operation == 1 ? " )  +  ( " : " )  -  ( ") +
                                      PolyText(ws, item.b) + " )";
-            if (!IsZeroPoly(item.result) && !drill.IsRepeat(text)) {
-                drill.AddItem(text, PolyText(ws, item.result));
-                break;
-            }
-            bound.Next();
-        }
+            if (IsZeroPoly(item.result)) return ItemTexts{};
+            return ItemTexts{text, PolyText(ws, item.result)};
+        });
     }
-    drill.WriteStatement(kPolynomialHeads);
+    drill.WriteStatement(ExpressionHeadLines("polynomials"));
 }
 
 // The four forms of routine 17:
@@ -136,21 +120,16 @@ void MultiplicationAndPowerOfBinomials(GeneratorWorkspace& ws) {
         form += 1;
         if (form > 4) form = 1;
         if (Coin(ws, 0.9f)) form = form == 4 ? 1 : form + 1;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const BinomialProductItem item = MakeBinomialProductItem(ws, static_cast<int>(form));
             std::string text;
             if (item.form == 2) text = ParenthesisedText(ws, item.a) + "^2";
             else if (item.form == 4) text = ParenthesisedText(ws, item.a) + "^3";
             else text = ParenthesisedText(ws, item.a) + ParenthesisedText(ws, item.b);
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, PolyText(ws, item.result));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{text, PolyText(ws, item.result)};
+        });
     }
-    drill.WriteStatement(kPolynomialHeads);
+    drill.WriteStatement(ExpressionHeadLines("polynomials"));
 }
 
 FactoringItem MakeFactoringItem(GeneratorWorkspace& ws) {
@@ -197,16 +176,11 @@ void FactoringPolynomials(GeneratorWorkspace& ws) {
     ItemDrill drill(ws, kStatementColumns1, kSolutionColumns1);
     const double form = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const FactoringItem item = MakeFactoringItem(ws);
             const std::string text = PolyWorkToMarkup(ws.polyWork, "&+Ix&-I");
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, FactoredText(item));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{text, FactoredText(item)};
+        });
     }
     const std::vector<std::string> heads = {"Factorize these polynomials:&LF",
                                             "Factorize the following polynomials:&LF"};
@@ -256,17 +230,12 @@ void DivisionOfPolynomials(GeneratorWorkspace& ws) {
     double type = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = type == 1 ? 2 : 1;
-        RetryBound bound;
-        while (true) {
+        AddNewItem(drill, [&] {
             const DivisionItem item = MakeDivisionItem(ws, static_cast<int>(type));
             const std::string text = "( " + PolyText(ws, item.dividend) + " ) : ( " + PolyText(ws, item.divisor) + " )";
-            if (!drill.IsRepeat(text)) {
-                drill.AddItem(text, " &+Iq&-I = " + PolyText(ws, item.quotient) + ",  &+Ir&-I = " +
-                                        PolyText(ws, item.remainder));
-                break;
-            }
-            bound.Next();
-        }
+            return ItemTexts{text, " &+Iq&-I = " + PolyText(ws, item.quotient) + ",  &+Ir&-I = " +
+                                       PolyText(ws, item.remainder)};
+        });
     }
     drill.WriteStatement({"Calculate the quotient and the remainder of the following divisions:&LF",
                           "Calculate quotient and remainder of these divisions:&LF",

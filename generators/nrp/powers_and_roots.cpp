@@ -97,19 +97,12 @@ void AdditionAndSubtractionOfSquareRoots(GeneratorWorkspace& ws) {
                       "Exercises to calculate addition and subtraction of square roots (3 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4);
+    ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double form = RandomInRange(ws, 1, 3, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         form += 1;
         if (form > 3) form = 1;
-        SquareRootSumItem item;
-        RetryBound bound;
-        while (true) {
-            item = DrawSquareRootSum(ws, static_cast<int>(form) + 1);
-            if (!item.texts.statement.empty() && !drill.IsRepeat(item.texts.statement)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.texts.statement, item.texts.solution);
+        AddNewItem(drill, [&] { return DrawSquareRootSum(ws, static_cast<int>(form) + 1).texts; });
     }
     drill.WriteStatement({"Calculate the following expressions:&LF"});
 }
@@ -193,18 +186,11 @@ void SimplifyingNthRoots(GeneratorWorkspace& ws) {
                       "Exercises to simplify n-th roots (6 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4);
+    ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = NextType(ws, type, 6, 0.7f);
-        SingleRootItem item;
-        RetryBound bound;
-        while (true) {
-            item = DrawSingleRoot(ws, static_cast<int>(type));
-            if (!item.texts.statement.empty() && !drill.IsRepeat(item.texts.statement)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.texts.statement, item.texts.solution);
+        AddNewItem(drill, [&] { return DrawSingleRoot(ws, static_cast<int>(type)).texts; });
     }
     drill.WriteStatement({"Simplify these expressions into a single root:&LF",
                           "Simplify the following expressions into a single root:&LF"});
@@ -249,19 +235,13 @@ void SimplifyingPowersOfNaturalNumbers(GeneratorWorkspace& ws) {
                       "Exercises to simplify powers of natural numbers (7 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4,
-                     {"&SP=10:", "&SP=20:", "&SP=30:", "&SP=40:", "&SP=50:", "&SP=60:", "&SP=70:", "&SP=80:"});
+    ItemDrill drill(ws, kPowerStatementColumns4,
+                    {"&SP=10:", "&SP=20:", "&SP=30:", "&SP=40:", "&SP=50:", "&SP=60:", "&SP=70:", "&SP=80:"}, 26,
+                    kPowerItems);
     double type = RandomInRange(ws, 1, 7, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = NextType(ws, type, 7, 0.7f);
-        SinglePowerItem item;
-        RetryBound bound;
-        while (true) {
-            item = DrawNaturalSinglePower(ws, static_cast<int>(type));
-            if (!item.texts.statement.empty() && !drill.IsRepeat(item.texts.statement)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.texts.statement, item.texts.solution);
+        AddNewItem(drill, [&] { return DrawNaturalSinglePower(ws, static_cast<int>(type)).texts; });
     }
     drill.WriteStatement({"Simplify these expressions into a single power:&LF",
                           "Simplify the following expressions into a single power:&LF"});
@@ -325,19 +305,12 @@ void SimplifyingPowersOfRationalNumbers(GeneratorWorkspace& ws) {
                       "Exercises to simplify powers of rational numbers (7 types)"});
         return;
     }
-    PowerDrill drill(ws, {"&SP=5:", "&SP=37:", "&SP=69:"},
-                     {"&SP=10:", "&SP=24:", "&SP=38:", "&SP=52:", "&SP=66:", "&SP=80:"}, 12);
+    ItemDrill drill(ws, {"&SP=5:", "&SP=37:", "&SP=69:"},
+                    {"&SP=10:", "&SP=24:", "&SP=38:", "&SP=52:", "&SP=66:", "&SP=80:"}, 12, kPowerItems);
     double type = RandomInRange(ws, 1, 7, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type = NextType(ws, type, 7, 0.7f);
-        RationalPowerItem item;
-        RetryBound bound;
-        while (true) {
-            item = DrawRationalSinglePower(ws, static_cast<int>(type));
-            if (!item.texts.statement.empty() && !drill.IsRepeat(item.texts.statement)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.texts.statement, item.texts.solution);
+        AddNewItem(drill, [&] { return DrawRationalSinglePower(ws, static_cast<int>(type)).texts; });
     }
     drill.WriteStatement({"Simplify these expressions into a single power with positive exponent:&LF",
                           "Simplify the following expressions into a single power with positive exponent:&LF"});

@@ -4,7 +4,6 @@
 #include "generators/nrp/nrp_routines.h"
 #include "generators/nrp/power_drill.h"
 #include "mathservices/arithmetic.h"
-#include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
 
 namespace {
@@ -83,20 +82,13 @@ void RationalizationWithSquareRoots(GeneratorWorkspace& ws) {
                       "Exercises to rationalize expressions involving square roots (5 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4);
+    ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         type += 1;
         if (type > 6) type = 1;
         if (Coin(ws, 0.8f)) type = RandomInRange(ws, 1, 6, 1, 1);
-        ItemTexts item;
-        RetryBound bound;
-        while (true) {
-            item = DrawSquareRootRationalisation(ws, static_cast<int>(type));
-            if (!item.statement.empty() && !drill.IsRepeat(item.statement)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.statement, item.solution);
+        AddNewItem(drill, [&] { return DrawSquareRootRationalisation(ws, static_cast<int>(type)); });
     }
     drill.WriteStatement({"Rationalize the following expressions:&LF"});
 }
@@ -143,7 +135,7 @@ void RationalizationWithNthRoots(GeneratorWorkspace& ws) {
                       "Exercises to rationalize expressions involving n-th roots (2 types)"});
         return;
     }
-    PowerDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4);
+    ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double type = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
         // The types alternate, with a chance of a repeat; both coins are always drawn.
@@ -152,14 +144,7 @@ void RationalizationWithNthRoots(GeneratorWorkspace& ws) {
         if (type == 1 && toSecond) type = 2;
         const bool toFirst = Coin(ws, 0.8f);
         if (type == 2 && toFirst) type = 1;
-        ItemTexts item;
-        RetryBound bound;
-        while (true) {
-            item = DrawNthRootRationalisation(ws, static_cast<int>(type));
-            if (!item.statement.empty() && !drill.IsRepeat(item.statement)) break;
-            bound.Next();
-        }
-        drill.AddItem(item.statement, item.solution);
+        AddNewItem(drill, [&] { return DrawNthRootRationalisation(ws, static_cast<int>(type)); });
     }
     drill.WriteStatement({"Rationalize the following expressions:&LF"});
 }

@@ -8,15 +8,9 @@
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
+#include "mathservices/utf8_text.h"
 
 namespace {
-std::string Trim(const std::string& s) {
-    const auto first = s.find_first_not_of(' ');
-    if (first == std::string::npos) return "";
-    const auto last = s.find_last_not_of(' ');
-    return s.substr(first, last - first + 1);
-}
-
 // n distinct template numbers in 1..size; a number already taken is drawn again.
 int DrawNewTemplate(GeneratorWorkspace& ws, int size, std::vector<int>& used) {
     RetryBound bound;
@@ -45,7 +39,7 @@ std::string TrigIdentityItem(GeneratorWorkspace& ws, int templateNumber) {
                                           letter, angleA, angleB);
     if (Coin(ws, 0.7f)) {
         const auto eq = text.find('=');
-        text = Trim(text.substr(eq + 1)) + " = " + Trim(text.substr(0, eq));
+        text = TrimBlanks(text.substr(eq + 1)) + " = " + TrimBlanks(text.substr(0, eq));
     }
     return text;
 }

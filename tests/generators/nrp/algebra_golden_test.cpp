@@ -60,29 +60,30 @@ const Golden kGolden[] = {
      "C(9#N)(&+Ix&-I& -& 7#COC)&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B #COC(-& 6&+Ix&-I& -& 63#N)((&+Ix&-I& -& 7)_ (&+Ix&-I& +& 7)#COC)&LF"},
     {"0160001234030101",
-     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I ( 17&+Ix&-I^3& +& 25&+Ix&-I )  +  ( 27&+Ix&"
-     "-I^2& -& 6 )&-I&LF&SP=5:&+Bb)&-B&+I ( 27&+Ix&-I^3& +& 8&+Ix&-I )  -  ( 18&+Ix&-I^2& +& 24&+Ix&-I& +&"
-     " 25 )&-I&LF&SP=5:&+Bc)&-B&+I ( &+Ix&-I^4& +& 12&+Ix&-I )  +  ( 7&+Ix&-I& +& 6 )&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 17&+Ix&-I^3& +& 27&+Ix&-I^2& +& 25&+Ix&-I& -& 6&SP=50:&-I&+Bb)&-B 27&+Ix&-I^3& -&"
-     " 18&+Ix&-I^2& -& 16&+Ix&-I& -& 25&LF&SP=10:&-I&+Bc)&-B &+Ix&-I^4& +& 19&+Ix&-I& +& 6&LF"},
+     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I ( 26&+Ix&-I^3& +& 3&+Ix&-I )  +  ( 4&+Ix&-I"
+     "^2& +& 22&+Ix&-I& -& 3 )&-I&LF&SP=5:&+Bb)&-B&+I ( 26&+Ix&-I^4& +& 8&+Ix&-I^3 )  -  ( 11&+Ix&-I^2& -&"
+     " 2 )&-I&LF&SP=5:&+Bc)&-B&+I ( 12&+Ix&-I )  +  ( 29&+Ix&-I^3& +& 7&+Ix&-I^2& -& 8&+Ix&-I& +& 5 )&-I&L"
+     "F&LF",
+     "&SP=10:&-I&+Ba)&-B 26&+Ix&-I^3& +& 4&+Ix&-I^2& +& 25&+Ix&-I& -& 3&SP=50:&-I&+Bb)&-B 26&+Ix&-I^4& +& "
+     "8&+Ix&-I^3& -& 11&+Ix&-I^2& +& 2&LF&SP=10:&-I&+Bc)&-B 29&+Ix&-I^3& +& 7&+Ix&-I^2& +& 4&+Ix&-I& +& 5&"
+     "LF"},
     {"0165174071070402",
-     "Calculate these expressions.&LF&SP=5:&+Ba)&-B&+I ( 3&+Ix&-I^2& +& 20&+Ix&-I& -& 1 )  +  ( -& &+Ix&-I"
-     "^2& +& 17&+Ix&-I& +& 22 )&-I&LF&SP=5:&+Bb)&-B&+I ( 9&+Ix&-I^2& +& 15&+Ix&-I& +& 23 )  -  ( 26&+Ix&-I"
-     "^2& -& 7 )&-I&LF&SP=5:&+Bc)&-B&+I ( 12&+Ix&-I^3& +& 26&+Ix&-I^2& +& 6&+Ix&-I )  +  ( 6&+Ix&-I^3 )&-I"
-     "&LF&SP=5:&+Bd)&-B&+I ( 13&+Ix&-I^3& -& 2&+Ix&-I^2& -& 4 )  -  ( 15&+Ix&-I^2& +& 7&+Ix&-I& +& 7 )&-I&"
-     "LF&SP=5:&+Be)&-B&+I ( 6&+Ix&-I^2 )  +  ( 24&+Ix&-I^3& +& 7&+Ix&-I^2& +& 5&+Ix&-I )&-I&LF&SP=5:&+Bf)&"
-     "-B&+I ( -& 9&+Ix&-I^4& +& 12&+Ix&-I^3& +& 9&+Ix&-I^2& +& 1 )  -  ( 17&+Ix&-I^2& -& 2&+Ix&-I )&-I&LF&"
-     "SP=5:&+Bg)&-B&+I ( -& 8&+Ix&-I^2& +& 25 )  +  ( 12&+Ix&-I^3& +& 3&+Ix&-I^2& +& 27&+Ix&-I& +& 11 )&-I"
-     "&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 2&+Ix&-I^2& +& 37&+Ix&-I& +& 21&SP=50:&-I&+Bb)&-B -& 17&+Ix&-I^2& +& 15&+Ix&-I& +"
-     "& 30&LF&SP=10:&-I&+Bc)&-B 18&+Ix&-I^3& +& 26&+Ix&-I^2& +& 6&+Ix&-I&SP=50:&-I&+Bd)&-B 13&+Ix&-I^3& -&"
-     " 17&+Ix&-I^2& -& 7&+Ix&-I& -& 11&LF&SP=10:&-I&+Be)&-B 24&+Ix&-I^3& +& 13&+Ix&-I^2& +& 5&+Ix&-I&SP=50"
-     ":&-I&+Bf)&-B -& 9&+Ix&-I^4& +& 12&+Ix&-I^3& -& 8&+Ix&-I^2& +& 2&+Ix&-I& +& 1&LF&SP=10:&-I&+Bg)&-B 12"
-     "&+Ix&-I^3& -& 5&+Ix&-I^2& +& 27&+Ix&-I& +& 36&LF"},
+     "Calculate these expressions involving polynomials.&LF&SP=5:&+Ba)&-B&+I ( 20&+Ix&-I^3& -& 6&+Ix&-I^2&"
+     " +& 15&+Ix&-I& +& 17 )  +  ( 22&+Ix&-I^2& +& 9 )&-I&LF&SP=5:&+Bb)&-B&+I ( 4&+Ix&-I )  -  ( 19&+Ix&-I"
+     "^3& -& 7&+Ix&-I^2& -& 8&+Ix&-I& +& 28 )&-I&LF&SP=5:&+Bc)&-B&+I ( -& 4&+Ix&-I^2& +& 19&+Ix&-I )  -  ("
+     " 19&+Ix&-I& +& 23 )&-I&LF&SP=5:&+Bd)&-B&+I ( 13&+Ix&-I^3& -& 2&+Ix&-I^2& -& 4 )  +  ( 15&+Ix&-I^2& +"
+     "& 7&+Ix&-I& +& 7 )&-I&LF&SP=5:&+Be)&-B&+I ( -& 3&+Ix&-I^3& +& 20&+Ix&-I^2& +& 7 )  -  ( 5&+Ix&-I^2& "
+     "+& 15&+Ix&-I& +& 26 )&-I&LF&SP=5:&+Bf)&-B&+I ( 15&+Ix&-I& +& 9 )  +  ( 4&+Ix&-I^2& +& 29&+Ix&-I )&-I"
+     "&LF&SP=5:&+Bg)&-B&+I ( 14&+Ix&-I^3& -& 8&+Ix&-I )  -  ( 10&+Ix&-I^3& +& 3&+Ix&-I& +& 27 )&-I&LF&LF",
+     "&SP=10:&-I&+Ba)&-B 20&+Ix&-I^3& +& 16&+Ix&-I^2& +& 15&+Ix&-I& +& 26&SP=50:&-I&+Bb)&-B -& 19&+Ix&-I^3"
+     "& +& 7&+Ix&-I^2& +& 12&+Ix&-I& -& 28&LF&SP=10:&-I&+Bc)&-B -& 4&+Ix&-I^2& -& 23&SP=50:&-I&+Bd)&-B 13&"
+     "+Ix&-I^3& +& 13&+Ix&-I^2& +& 7&+Ix&-I& +& 3&LF&SP=10:&-I&+Be)&-B -& 3&+Ix&-I^3& +& 15&+Ix&-I^2& -& 1"
+     "5&+Ix&-I& -& 19&SP=50:&-I&+Bf)&-B 4&+Ix&-I^2& +& 44&+Ix&-I& +& 9&LF&SP=10:&-I&+Bg)&-B 4&+Ix&-I^3& -&"
+     " 11&+Ix&-I& -& 27&LF"},
     {"0168998999011010",
-     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I ( &+Ix&-I^4& +& 28&+Ix&-I^3& -& 5&+Ix&-I^2&"
-     " -& 7&+Ix&-I )  -  ( 6&+Ix&-I& +& 12 )&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+Ix&-I^4& +& 28&+Ix&-I^3& -& 5&+Ix&-I^2& -& 13&+Ix&-I& -& 12&LF"},
+     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I ( 28&+Ix&-I& +& 8 )  -  ( -& 8&+Ix&-I^2& -&"
+     " 7&+Ix&-I )&-I&LF&LF",
+     "&SP=10:&-I&+Ba)&-B 8&+Ix&-I^2& +& 35&+Ix&-I& +& 8&LF"},
     {"0170001234030101",
      "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I (&+Ix&-I^2& +& 4)(7&+Ix&-I^2& -& 2)&-I&SP=2"
      "9:&+Bb)&-B&+I (&+Ix&-I^2& +& 6)^2&-I&SP=53:&+Bc)&-B&+I (&+Ix&-I& +& 5)(&+Ix&-I& -& 5)&-I&LF&LF",

@@ -29,6 +29,21 @@ const FunctionName kFunctions[] = {{"arcsin", kArcsin}, {"arccos", kArccos}, {"a
                                    {"cos", kCos},       {"tan", kTan},       {"sec", kSec},
                                    {"ln", kLn},         {"log", kLogarithm}};
 
+// The constructs with a value: opener, what must follow it, the separator of a second
+// part, closer. a is the first part, b the second.
+struct Construct {
+    const char* open;
+    const char* lead;
+    const char* middle;
+    const char* close;
+    Kind kind;
+};
+const Construct kConstructs[] = {{"#COC(", nullptr, "#N)(", "#COC)", kDivide},
+                                 {"#SQR(", nullptr, nullptr, "#SQR)", kSquareRoot},
+                                 {"#RAD(", "#RI(", "#RI)", "#RAD)", kRoot},
+                                 {"#POT(", nullptr, "#PB)(", "#POT)", kPower},
+                                 {"#EXP(", nullptr, nullptr, "#EXP)", kExponential}};
+
 const char kMiddleDot[] = "\u00B7";
 const char kTimes[] = "\u00D7";
 const char kDegreeSign[] = "\u00B0";
@@ -99,8 +114,10 @@ private:
         const char c = s_[pos_];
         if ((c >= '0' && c <= '9') || c == '(' || c == '[' || LetterAt(pos_)) return !At("rad");
         if (c == '|') return barDepth_ == 0;
-        return At("&.") || At("&pi") || At(kPiLetter) || At("#COC(") || At("#SQR(") || At("#RAD(") ||
-               At("#POT(") || At("#EXP(") || At("#NES(");
+        for (const auto& construct : kConstructs) {
+            if (At(construct.open)) return true;
+        }
+        return At("&.") || At("&pi") || At(kPiLetter) || At("#NES(");
     }
 
     int Expression() {
@@ -237,37 +254,17 @@ private:
             Expect("|");
             return Add(kAbsolute, value);
         }
-        if (Take("#COC(")) {
-            const int top = Expression();
-            Expect("#N)(");
-            const int bottom = Expression();
-            Expect("#COC)");
-            return Add(kDivide, top, bottom);
-        }
-        if (Take("#SQR(")) {
-            const int value = Expression();
-            Expect("#SQR)");
-            return Add(kSquareRoot, value);
-        }
-        if (Take("#RAD(")) {
-            Expect("#RI(");
-            const int index = Expression();
-            Expect("#RI)");
-            const int value = Expression();
-            Expect("#RAD)");
-            return Add(kRoot, value, index);
-        }
-        if (Take("#POT(")) {
-            const int base = Expression();
-            Expect("#PB)(");
-            const int exponent = Expression();
-            Expect("#POT)");
-            return Add(kPower, base, exponent);
-        }
-        if (Take("#EXP(")) {
-            const int exponent = Expression();
-            Expect("#EXP)");
-            return Add(kExponential, exponent);
+        for (const auto& c : kConstructs) {
+            if (!Take(c.open)) continue;
+            if (c.lead) Expect(c.lead);
+            const int first = Expression();
+            int second = -1;
+            if (c.middle) {
+                Expect(c.middle);
+                second = Expression();
+            }
+            Expect(c.close);
+            return Add(c.kind, first, second);
         }
         if (Take("#NES(")) {
             const std::string pair = s_.substr(pos_, 2);
@@ -354,6 +351,9 @@ public:
     using Values = std::map<char, T>;
     Evaluator(const std::vector<MarkupFormula::Node>& nodes, const Values& values, const std::string& text)
         : nodes_(nodes), values_(values), text_(text) {}
+    // The letter x alone, without a map to build at each of many points.
+    Evaluator(const std::vector<MarkupFormula::Node>& nodes, T x, const std::string& text)
+        : nodes_(nodes), values_(NoValues()), text_(text), x_(x), hasX_(true) {}
 
     T At(int index) const {
         const MarkupFormula::Node& n = nodes_[static_cast<std::size_t>(index)];
@@ -372,7 +372,7 @@ public:
         case kPowerDigit: return Power(At(n.a), T(n.number));
         case kPower: return Power(At(n.a), At(n.b));
         case kSquareRoot: return SquareRoot(At(n.a));
-        case kRoot: return Root(At(n.a), At(n.b));
+        case kRoot: return Root(At(n.b), At(n.a));
         case kExponential: return std::exp(At(n.a));
         case kAbsolute: return Magnitude(At(n.a));
         case kDegrees: return At(n.a) * (kPi / 180);
@@ -385,8 +385,16 @@ private:
     const std::vector<MarkupFormula::Node>& nodes_;
     const Values& values_;
     const std::string& text_;
+    T x_ = 0;
+    bool hasX_ = false;
+
+    static const Values& NoValues() {
+        static const Values none;
+        return none;
+    }
 
     T Letter(char letter) const {
+        if (hasX_ && letter == 'x') return x_;
         const auto it = values_.find(letter);
         if (it != values_.end()) return it->second;
         if (letter == 'e') return std::exp(1.0);
@@ -433,6 +441,8 @@ double MarkupFormula::Real(const RealValues& values) const {
     return Evaluator<double>(nodes_, values, markup_).At(root_);
 }
 
+double MarkupFormula::RealAt(double x) const { return Evaluator<double>(nodes_, x, markup_).At(root_); }
+
 std::complex<double> MarkupFormula::Complex(const ComplexValues& values) const {
     return Evaluator<std::complex<double>>(nodes_, values, markup_).At(root_);
 }
@@ -441,7 +451,7 @@ double ReadMarkupReal(const std::string& markup, const RealValues& values) {
     return MarkupFormula(markup).Real(values);
 }
 
-double ReadMarkupAt(const std::string& markup, double x) { return MarkupFormula(markup).Real({{'x', x}}); }
+double ReadMarkupAt(const std::string& markup, double x) { return MarkupFormula(markup).RealAt(x); }
 
 std::complex<double> ReadMarkupComplex(const std::string& markup, const ComplexValues& values) {
     return MarkupFormula(markup).Complex(values);

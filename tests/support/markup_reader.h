@@ -38,6 +38,8 @@ public:
     explicit MarkupFormula(const std::string& markup);
 
     double Real(const RealValues& values = {}) const;
+    // The real value of a formula in x alone at x.
+    double RealAt(double x) const;
     std::complex<double> Complex(const ComplexValues& values = {}) const;
 
     struct Node {

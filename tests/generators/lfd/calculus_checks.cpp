@@ -1,7 +1,6 @@
 #include "calculus_checks.h"
 
 #include <cmath>
-#include <optional>
 #include <stdexcept>
 
 std::string IntegrandOf(const std::string& item) {
@@ -32,63 +31,47 @@ std::string WithoutConstant(const std::string& answer) {
 namespace {
 const double kSamples[] = {-7.31, -2.27, -0.83, -0.41, -0.07, 0.04, 0.09, 0.37, 0.71, 1.3, 2.9, 8.1};
 
-double EvaluateAt(const MarkupFormula& formula, double x) { return formula.Real({{'x', x}}); }
+struct Sample {
+    bool usable = false;
+    std::string failure;
+};
 
-std::string CheckPair(const std::string& fMarkup, const std::string& derivativeMarkup, int minPoints,
-                      bool fIsPrimitive) {
-    std::optional<MarkupFormula> read, readDerivative;
+// The written derivative against central differences of f at x. Points where either is
+// undefined, or next to a pole or a corner of the domain where differences mislead, are
+// not usable.
+Sample CheckAt(const MarkupFormula& f, const MarkupFormula& derivative, double x, double h) {
+    const double expected = derivative.RealAt(x);
+    const double a = f.RealAt(x + h), b = f.RealAt(x - h);
+    const double a2 = f.RealAt(x + 2 * h), b2 = f.RealAt(x - 2 * h);
+    if (!std::isfinite(expected) || !std::isfinite(a) || !std::isfinite(b) || !std::isfinite(a2) ||
+        !std::isfinite(b2) || std::fabs(expected) > 1e12)
+        return {};
+    const double numeric = (a - b) / (2 * h), numeric2 = (a2 - b2) / (4 * h);
+    if (std::fabs(numeric - numeric2) > 1e-5 * std::max(1.0, std::fabs(numeric))) return {};
+    if (std::fabs(numeric - expected) > 1e-4 * std::max(1.0, std::fabs(expected)))
+        return {false, "at x = " + std::to_string(x) + ": numeric " + std::to_string(numeric) + ", written " +
+                           std::to_string(expected)};
+    return {true, ""};
+}
+
+// f is differentiated numerically; derivativeMarkup is its claimed derivative.
+std::string CheckPair(const std::string& fMarkup, const std::string& derivativeMarkup, int minPoints) {
+    int used = 0;
     try {
-        read.emplace(fMarkup);
-        readDerivative.emplace(derivativeMarkup);
+        const MarkupFormula f(fMarkup), derivative(derivativeMarkup);
+        for (double x : kSamples) {
+            const Sample s = CheckAt(f, derivative, x, 1e-5 * std::max(1.0, std::fabs(x)));
+            if (!s.failure.empty()) return s.failure;
+            used += s.usable ? 1 : 0;
+        }
+        // A narrow domain (an arcsine of a steep argument) needs a finer scan.
+        for (int step = 0; step < 540 && used < minPoints; ++step) {
+            const Sample s = CheckAt(f, derivative, -9.973 + step * 0.0371, 1e-6);
+            if (!s.failure.empty()) return s.failure;
+            used += s.usable ? 1 : 0;
+        }
     } catch (const std::exception& e) {
         return e.what();
-    }
-    const MarkupFormula &f = *read, &derivativeOfF = *readDerivative;
-    // fIsPrimitive: f is the function to differentiate numerically; derivativeOfF its claimed derivative.
-    int used = 0;
-    for (double x : kSamples) {
-        double expected, a, b;
-        try {
-            expected = EvaluateAt(derivativeOfF, x);
-            const double h = 1e-5 * std::max(1.0, std::fabs(x));
-            a = EvaluateAt(f, x + h);
-            b = EvaluateAt(f, x - h);
-            if (!std::isfinite(expected) || !std::isfinite(a) || !std::isfinite(b) || std::fabs(expected) > 1e12) continue;
-            const double numeric = (a - b) / (2 * h);
-            // Skip points next to a pole or a corner of the domain, where differences mislead.
-            const double a2 = EvaluateAt(f, x + 2 * h), b2 = EvaluateAt(f, x - 2 * h);
-            if (!std::isfinite(a2) || !std::isfinite(b2)) continue;
-            const double numeric2 = (a2 - b2) / (4 * h);
-            if (std::fabs(numeric - numeric2) > 1e-5 * std::max(1.0, std::fabs(numeric))) continue;
-            if (std::fabs(numeric - expected) > 1e-4 * std::max(1.0, std::fabs(expected)))
-                return "at x = " + std::to_string(x) + ": numeric " + std::to_string(numeric) + ", written " +
-                       std::to_string(expected);
-            ++used;
-        } catch (const std::exception& e) {
-            return e.what();
-        }
-    }
-    (void)fIsPrimitive;
-    // A narrow domain (an arcsine of a steep argument) needs a finer scan.
-    for (int step = 0; step < 540 && used < minPoints; ++step) {
-        const double x = -9.973 + step * 0.0371;
-        try {
-            const double expected = EvaluateAt(derivativeOfF, x);
-            const double h = 1e-6;
-            const double a = EvaluateAt(f, x + h), b = EvaluateAt(f, x - h);
-            const double a2 = EvaluateAt(f, x + 2 * h), b2 = EvaluateAt(f, x - 2 * h);
-            if (!std::isfinite(expected) || !std::isfinite(a) || !std::isfinite(b) || !std::isfinite(a2) ||
-                !std::isfinite(b2) || std::fabs(expected) > 1e12)
-                continue;
-            const double numeric = (a - b) / (2 * h), numeric2 = (a2 - b2) / (4 * h);
-            if (std::fabs(numeric - numeric2) > 1e-5 * std::max(1.0, std::fabs(numeric))) continue;
-            if (std::fabs(numeric - expected) > 1e-4 * std::max(1.0, std::fabs(expected)))
-                return "at x = " + std::to_string(x) + ": numeric " + std::to_string(numeric) + ", written " +
-                       std::to_string(expected);
-            ++used;
-        } catch (const std::exception& e) {
-            return e.what();
-        }
     }
     if (used < minPoints) return "only " + std::to_string(used) + " usable sample points";
     return "";
@@ -96,9 +79,9 @@ std::string CheckPair(const std::string& fMarkup, const std::string& derivativeM
 } // namespace
 
 std::string CheckAntiderivative(const std::string& integrand, const std::string& antiderivative, int minPoints) {
-    return CheckPair(antiderivative, integrand, minPoints, true);
+    return CheckPair(antiderivative, integrand, minPoints);
 }
 
 std::string CheckDerivative(const std::string& function, const std::string& derivative, int minPoints) {
-    return CheckPair(function, derivative, minPoints, false);
+    return CheckPair(function, derivative, minPoints);
 }

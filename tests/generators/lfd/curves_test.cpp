@@ -17,7 +17,7 @@ std::string Strip(const std::string& text, const std::string& head) {
 
 double Slope(const MarkupFormula& f, double x) {
     const double h = 1e-6;
-    return (f.Real({{'x', x + h}}) - f.Real({{'x', x - h}})) / (2 * h);
+    return (f.RealAt(x + h) - f.RealAt(x - h)) / (2 * h);
 }
 
 void CheckTangents(const GeneratedProblem& p) {
@@ -31,7 +31,7 @@ void CheckTangents(const GeneratedProblem& p) {
         ASSERT_NE(split, std::string::npos) << items[i];
         const MarkupFormula f(Strip(items[i].substr(0, split), kY));
         const double x0 = std::stod(items[i].substr(split + at.size()));
-        const double y0 = f.Real({{'x', x0}}), m = Slope(f, x0);
+        const double y0 = f.RealAt(x0), m = Slope(f, x0);
         ASSERT_TRUE(std::isfinite(y0)) << p.code << " " << items[i];
         const auto comma = answers[i].find(",     ");
         const std::string tangent = Strip(answers[i].substr(0, comma), kY);
@@ -68,9 +68,9 @@ void CheckExtrema(const GeneratedProblem& p) {
             const auto close = answers[i].find(")", pos);
             const double x = std::stod(answers[i].substr(pos + 2, sep - pos - 2));
             const double y = std::stod(answers[i].substr(sep + 3, close - sep - 3));
-            EXPECT_NEAR(f.Real({{'x', x}}), y, 1e-9) << p.code << " " << items[i];
+            EXPECT_NEAR(f.RealAt(x), y, 1e-9) << p.code << " " << items[i];
             EXPECT_NEAR(Slope(f, x), 0, 1e-5) << p.code << " " << items[i];
-            const double bend = f.Real({{'x', x + 0.01}}) + f.Real({{'x', x - 0.01}}) - 2 * y;
+            const double bend = f.RealAt(x + 0.01) + f.RealAt(x - 0.01) - 2 * y;
             EXPECT_EQ(kind, bend > 0 ? "Min" : "Max") << p.code << " " << items[i] << " -> " << answers[i];
             ++listed;
             pos = close;

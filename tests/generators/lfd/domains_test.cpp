@@ -76,7 +76,7 @@ void CheckDomains(const GeneratedProblem& p) {
         const MarkupFormula formula(f);
         // Whole points (every end of these domains is whole) and points between them.
         for (double x = -15; x <= 15; x += 0.5) {
-            EXPECT_EQ(std::isfinite(formula.Real({{'x', x}})), inDomain(x))
+            EXPECT_EQ(std::isfinite(formula.RealAt(x)), inDomain(x))
                 << p.code << " at x = " << x << ": " << items[i] << " -> " << answers[i];
         }
     }

@@ -112,7 +112,7 @@ TEST(MarkupReader, UndefinedValuesAreNaN) {
 TEST(MarkupReader, RefusesWhatItCannotRead) {
     for (const char* text : {"", "2 +", "(1 + 2", "#COC(1#N)(2", "x^a", "x^12", "2 = 2", "3&pm1", "#NES({X1#NES)",
                              "#ABC(1#ABC)", "2*3", "1.5", "&.", "0&.#ARC(#ARC)", "|x| |", "#SPB(X#T)(1#SPB)",
-                             "x &Q", "2&E"}) {
+                             "x &Q", "2&E", "2 3", "x 2", "2#COC(1#N)(3#COC)"}) {
         EXPECT_THROW(Real(text), UnreadableMarkup) << text;
     }
     EXPECT_THROW(Real("y"), UnreadableMarkup);

@@ -144,8 +144,14 @@ private:
                 const int angle = Expression();
                 Expect("#SPB)");
                 value = Add(kPolar, value, angle);
-            } else if (CanStartFactor()) value = Add(kMultiply, value, Factor());
-            else return value;
+            } else if (CanStartFactor()) {
+                // Two numbers side by side, or a number before a fraction (a mixed number?),
+                // are not a product anyone writes.
+                if (DigitAt(pos_) || At("&.") ||
+                    (At("#COC(") && nodes_[static_cast<std::size_t>(value)].kind == kNumber))
+                    Fail("a number after a number");
+                value = Add(kMultiply, value, Factor());
+            } else return value;
         }
     }
 

@@ -4,10 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include "support/generator_sweep.h"
 #include "support/markup_reader.h"
 
 namespace {
-constexpr double kPi = 3.14159265358979323846;
 using Complex = std::complex<double>;
 
 double Real(const std::string& text, double x = 0) { return ReadMarkupReal(text, {{'x', x}}); }
@@ -135,7 +135,7 @@ TEST(MarkupReader, CalculusFormulas) {
     EXPECT_THROW(Real("#COC(1#N)(x", 1), UnreadableMarkup);
 }
 
-TEST(MarkupReader, LetteredItems) {
+TEST(LetteredItems, TextsAfterTheMarksWithoutTheLayout) {
     const std::string text = "Head&LF&SP=5:&+Ba)&-B 1 + 2&SP=50:&+Bb)&-B &+Ix&-I&LF&LF&SP=5:&-I&+Bc)&-B 3";
     const auto items = LetteredItems(text);
     ASSERT_EQ(items.size(), 3u);

@@ -65,9 +65,5 @@ std::complex<double> ReadMarkupComplex(const std::string& markup, const ComplexV
 std::complex<double> ExpectComplexValue(const std::string& markup, const ComplexValues& values,
                                         const std::string& context);
 
-// The items of a lettered list: the text after each "&+B" letter tail up to the next
-// letter's mark, without the line breaks and column marks that end it.
-std::vector<std::string> LetteredItems(const std::string& text, const std::string& tail = ")&-B ");
-
 // True when a and b agree to the given part of the larger of 1, |a| and |b|.
 bool NearlyEqual(std::complex<double> a, std::complex<double> b, double relative = 1e-9);

@@ -5,11 +5,11 @@
 #include <gtest/gtest.h>
 
 #include "equation_answers.h"
-#include "support/markup_reader.h"
 #include "generators/ecu/ecu_items.h"
 #include "generators/hub.h"
 #include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
+#include "support/markup_reader.h"
 
 // The equation drills are checked by substitution: every statement item is read back
 // as numbers and the answers are put into it.

@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "algebra_test_helpers.h"
-#include "support/markup_reader.h"
 #include "generators/hub.h"
 #include "support/generator_sweep.h"
+#include "support/markup_reader.h"
 
 using namespace algebra_test;
 

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "algebra_test_helpers.h"
-#include "support/markup_reader.h"
 #include "generators/hub.h"
 #include "generators/nrp/algebra_items.h"
 #include "mathservices/number_markup.h"

@@ -4,11 +4,11 @@
 #include <regex>
 
 #include "algebra_test_helpers.h"
-#include "support/markup_reader.h"
 #include "generators/hub.h"
 #include "generators/nrp/algebra_items.h"
 #include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
+#include "support/markup_reader.h"
 
 using namespace algebra_test;
 

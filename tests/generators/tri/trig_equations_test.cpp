@@ -9,7 +9,6 @@
 #include "generators/tri/trig_equation_templates.h"
 #include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
-#include "support/markup_reader.h"
 
 // The equation lists of both modules draw rows of one table; each item must show a row's
 // equation and its own answers, and no row twice in one problem.

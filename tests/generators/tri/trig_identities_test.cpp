@@ -9,10 +9,10 @@
 #include "generators/hub.h"
 #include "generators/tri/trig_identity_templates.h"
 #include "generators/tri/tri_routines.h"
+#include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
 #include "support/markup_lint.h"
 #include "support/markup_reader.h"
-#include "mathservices/number_markup.h"
 
 // Every identity of the table is checked as mathematics: both sides, read back from the
 // expanded markup, agree at random angles.

@@ -15,11 +15,14 @@
 // "#EXP(" for a power of e; pi ("&pi" or the letter), e, i; sin cos tan cotan sec cosec
 // ln log (a base after "_"), arcsin arccos arctan, each with an optional power after its
 // name ("sin^2 x") and as argument a bracket, bars or a construct, or a run of numbers and
-// letters ("sin 3x cos x", "sin x (1 + cos x)"); degrees "°", the word "rad", polar forms "r#SPB(L #T)(angle#SPB)".
-// Switches and spacing carry no value and are passed over: "&+I" "&-I" "&+B" "&-B" "&LF",
-// "& ", "_ ", "^ ", "&SP=n:".
+// letters ("sin 3x cos x", "sin x (1 + cos x)"); degrees "°", the word "rad", polar forms
+// "r#SPB(L #T)(angle#SPB)". Switches and spacing carry no value and are passed over:
+// "&+I" "&-I" "&+B" "&-B" "&LF", "& ", "_ ", "^ ", "&SP=n:". An odd root of a negative
+// number is the negative root.
 //
-// Text it cannot read throws UnreadableMarkup; it never guesses. A value that does not
+// Text it cannot read throws UnreadableMarkup; it never guesses: two numbers side by side,
+// a number before a fraction (a mixed number?) or a digit after a one-digit power ("x^12")
+// are refused as well as unknown codes and unbalanced constructs. A value that does not
 // exist (a zero denominator; in a real reading also a root of a negative number, a
 // logarithm of one that is not positive, an arcsine out of range) is NaN.
 class UnreadableMarkup : public std::runtime_error {
@@ -42,6 +45,7 @@ public:
     double RealAt(double x) const;
     std::complex<double> Complex(const ComplexValues& values = {}) const;
 
+    // One operation of the parsed formula, its operands by index.
     struct Node {
         int kind = 0;
         int a = -1, b = -1;

@@ -30,7 +30,9 @@ void ExpectItemsEqualAnswers(const GeneratedProblem& p,
 void ExpectNegativesInParentheses(const std::string& item) {
     for (std::size_t at = item.find('-'); at != std::string::npos; at = item.find('-', at + 1)) {
         const bool ofNumber = at + 1 < item.size() && std::isdigit(static_cast<unsigned char>(item[at + 1]));
-        if (ofNumber) EXPECT_TRUE(at > 0 && item[at - 1] == '(') << item;
+        if (ofNumber) {
+            EXPECT_TRUE(at > 0 && item[at - 1] == '(') << item;
+        }
     }
 }
 

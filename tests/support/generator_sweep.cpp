@@ -49,6 +49,42 @@ std::vector<std::string> SolutionItems(const std::string& solution) {
     return out;
 }
 
+std::vector<std::string> LetteredItems(const std::string& text, const std::string& tail) {
+    std::vector<std::size_t> starts, ends;
+    std::size_t pos = 0;
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        const std::string mark = std::string("&+B") + letter + tail;
+        const auto at = text.find(mark, pos);
+        if (at == std::string::npos) break;
+        if (!starts.empty()) ends.push_back(at);
+        starts.push_back(at + mark.size());
+        pos = at + mark.size();
+    }
+    ends.push_back(text.size());
+    std::vector<std::string> items;
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+        std::string item = text.substr(starts[i], ends[i] - starts[i]);
+        // What belongs to the layout goes: line breaks and the next item's column mark,
+        // which may carry the switch that ends an italic run.
+        while (true) {
+            if (item.size() >= 3 && item.compare(item.size() - 3, 3, "&LF") == 0) {
+                item.erase(item.size() - 3);
+                continue;
+            }
+            const auto mark = item.rfind("&SP=");
+            if (mark == std::string::npos) break;
+            const auto colon = item.find(':', mark);
+            if (colon == item.size() - 1 || (colon == item.size() - 4 && item.compare(colon + 1, 3, "&-I") == 0)) {
+                item.erase(mark);
+                continue;
+            }
+            break;
+        }
+        items.push_back(item);
+    }
+    return items;
+}
+
 void SweepRoutine(const std::string& module, int routine, int seedCount,
                   const std::function<void(const GeneratedProblem&)>& check) {
     GeneratorHub hub;

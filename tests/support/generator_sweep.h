@@ -19,6 +19,9 @@ GeneratedProblem GenerateProblem(GeneratorHub& hub, const std::string& module, c
 std::vector<std::string> StatementItems(const std::string& statement);
 // The texts of the lettered answers of a drill's solution, in order.
 std::vector<std::string> SolutionItems(const std::string& solution);
+// The items of a lettered list: the text after each "&+B" letter tail up to the next
+// letter's mark, without the line breaks and column marks that end it.
+std::vector<std::string> LetteredItems(const std::string& text, const std::string& tail = ")&-B ");
 
 // Runs a routine over seeds 0..seedCount-1, walking item counts 0..30 and group sizes
 // 1..10 with the seed, and checks what every problem must hold: no error text, well

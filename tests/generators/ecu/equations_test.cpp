@@ -4,11 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include "expression_eval.h"
+#include "equation_answers.h"
 #include "generators/ecu/ecu_items.h"
 #include "generators/hub.h"
 #include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
+#include "support/markup_reader.h"
 
 // The equation drills are checked by substitution: every statement item is read back
 // as numbers and the answers are put into it.
@@ -20,7 +21,7 @@ bool Near(double a, double b) { return std::fabs(a - b) <= 1e-7 * std::max(1.0, 
 // Left minus right of an equation item at x.
 double Difference(const SplitRelation& eq, double x) {
     const std::map<char, double> v = {{'x', x}, {'k', x}, {'m', x}, {'t', x}, {'y', x}, {'z', x}};
-    return EvaluateMarkup(eq.left, v) - EvaluateMarkup(eq.right, v);
+    return ReadMarkupReal(eq.left, v) - ReadMarkupReal(eq.right, v);
 }
 
 bool Holds(const std::string& relation, double left, double right) {
@@ -123,7 +124,7 @@ void CheckLinearItem(const std::string& item, const std::string& answer, const s
             }
             return a;
         }());
-    const double v = EvaluateMarkup(ans.right, {});
+    const double v = ReadMarkupReal(ans.right);
     // The boundary solves the equation, and the line is not constant.
     EXPECT_NEAR(Difference(eq, v), 0, 1e-9) << where;
     EXPECT_GT(std::fabs(Difference(eq, v + 1) - Difference(eq, v)), 1e-9) << where;
@@ -134,7 +135,7 @@ void CheckLinearItem(const std::string& item, const std::string& answer, const s
     // The answer's half-line is exactly where the inequation holds.
     for (double x : {v - 3.5, v - 0.25, v, v + 0.25, v + 3.5}) {
         const std::map<char, double> at = {{'x', x}};
-        const bool statement = Holds(eq.relation, EvaluateMarkup(eq.left, at), EvaluateMarkup(eq.right, at));
+        const bool statement = Holds(eq.relation, ReadMarkupReal(eq.left, at), ReadMarkupReal(eq.right, at));
         const bool answerHolds = Holds(ans.relation, x, v);
         EXPECT_EQ(statement, answerHolds) << where << " at x = " << x;
     }
@@ -242,7 +243,7 @@ void CheckWholeSolutionsProblem(const GeneratedProblem& p, int range) {
         std::vector<double> found;
         for (int x = -range; x <= range; ++x) {
             const double d = Difference(eq, x);
-            const double scale = std::max(1.0, std::fabs(EvaluateMarkup(eq.right, {{'x', static_cast<double>(x)}})));
+            const double scale = std::max(1.0, std::fabs(ReadMarkupReal(eq.right, {{'x', static_cast<double>(x)}})));
             if (!std::isnan(d) && std::fabs(d) <= 1e-9 * scale) found.push_back(x);
         }
         ExpectSameValues(listed, found, p.code + " " + items[i] + " -> " + answers[i]);
@@ -321,7 +322,7 @@ void CheckSystemProblem(const GeneratedProblem& p, int unknowns, bool linear, in
             ASSERT_EQ(static_cast<int>(point.size()), unknowns) << answers[i];
             for (const auto& row : rows) {
                 const SplitRelation eq = SplitAtRelation(row);
-                EXPECT_NEAR(EvaluateMarkup(eq.left, point), EvaluateMarkup(eq.right, point), 1e-9)
+                EXPECT_NEAR(ReadMarkupReal(eq.left, point), ReadMarkupReal(eq.right, point), 1e-9)
                     << p.code << " " << row << " at " << answers[i];
             }
         }
@@ -331,11 +332,11 @@ void CheckSystemProblem(const GeneratedProblem& p, int unknowns, bool linear, in
             for (int r = 0; r < unknowns; ++r) {
                 const SplitRelation eq = SplitAtRelation(rows[static_cast<std::size_t>(r)]);
                 const std::map<char, double> origin = {{'x', 0}, {'y', 0}, {'z', 0}};
-                const double base = EvaluateMarkup(eq.left, origin);
+                const double base = ReadMarkupReal(eq.left, origin);
                 for (int c = 0; c < unknowns; ++c) {
                     std::map<char, double> unit = origin;
                     unit["xyz"[c]] = 1;
-                    m[r][c] = EvaluateMarkup(eq.left, unit) - base;
+                    m[r][c] = ReadMarkupReal(eq.left, unit) - base;
                 }
             }
             const double det = unknowns == 2 ? m[0][0] * m[1][1] - m[0][1] * m[1][0]

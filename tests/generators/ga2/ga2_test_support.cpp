@@ -1,5 +1,7 @@
 #include "ga2_test_support.h"
 
+#include "support/markup_reader.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -57,13 +59,21 @@ bool ReadNumber(const std::string& text, std::size_t& pos, double& value) {
 } // namespace
 
 double ReadExact(const std::string& text) {
-    std::size_t pos = 0;
-    double value = 0;
-    if (!ReadNumber(text, pos, value) || pos != text.size()) {
-        ADD_FAILURE() << "not an exact number: '" << text << "'";
-        return std::nan("");
+    // The shape of an exact number: a sign, then a fraction of two such numbers, or a
+    // decimal, a square root or a decimal times a square root.
+    static const std::string sign = R"((?:-|& | )*)";
+    static const std::string decimal = R"(\d+(?:&\.\d+)?)";
+    static const std::string simple =
+        sign + "(?:" + decimal + "(?:#SQR\\(" + decimal + "#SQR\\))?|#SQR\\(" + decimal + "#SQR\\))";
+    static const std::regex kExact("^(?:" + sign + "#COC\\(" + simple + "#N\\)\\(" + simple + "#COC\\)|" + simple + ")$");
+    if (std::regex_match(text, kExact)) {
+        try {
+            return ReadMarkupReal(text);
+        } catch (const UnreadableMarkup&) {
+        }
     }
-    return value;
+    ADD_FAILURE() << "not an exact number: '" << text << "'";
+    return std::nan("");
 }
 
 std::vector<Point2> PointsIn(const std::string& text) {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "../lfd/markup_expression.h"
+#include "../lfd/calculus_checks.h"
 #include "generators/hub.h"
 #include "support/generator_sweep.h"
 
@@ -27,7 +27,7 @@ double AbsoluteArea(const std::string& f, const std::string& g, double low, doub
         double s = 0;
         for (int i = 0; i <= n; ++i) {
             const double x = a + i * h;
-            const double v = std::fabs(EvaluateMarkup(f, x) - (g.empty() ? 0 : EvaluateMarkup(g, x)));
+            const double v = std::fabs(ReadMarkupAt(f, x) - (g.empty() ? 0 : ReadMarkupAt(g, x)));
             s += v * (i == 0 || i == n ? 1 : (i % 2 ? 4 : 2));
         }
         total += s * h / 3;
@@ -42,12 +42,12 @@ const std::string kXIs = "&+Ix&-I& =& ";
 void CheckAreaAnswer(const GeneratedProblem& p, double numeric) {
     const std::string exact = Between(p.solution, "Area = ", {"  &aprox", " u^2"});
     ASSERT_FALSE(exact.empty()) << p.code << " " << p.solution;
-    const double value = EvaluateMarkup(exact, 0);
+    const double value = ReadMarkupAt(exact, 0);
     EXPECT_GT(value, 0) << p.code;
     EXPECT_NEAR(value, numeric, 1e-6 * std::max(1.0, numeric)) << p.code << "\n" << p.statement << "\n" << p.solution;
     const std::string rounded = Between(p.solution, "&aprox  ", {" u^2"});
     if (!rounded.empty()) {
-        EXPECT_NEAR(EvaluateMarkup(rounded, 0), value, 0.0051) << p.code << " " << p.solution;
+        EXPECT_NEAR(ReadMarkupAt(rounded, 0), value, 0.0051) << p.code << " " << p.solution;
     }
     EXPECT_EQ(p.solution.substr(p.solution.size() - 8), " u^2.&LF") << p.code;
 }
@@ -62,8 +62,8 @@ void CheckOneFunctionArea(const GeneratedProblem& p) {
         const auto comma = roots.find(",  ");
         low = std::stod(roots.substr(0, comma));
         high = std::stod(roots.substr(comma + 3));
-        EXPECT_NEAR(EvaluateMarkup(f, low), 0, 1e-9);
-        EXPECT_NEAR(EvaluateMarkup(f, high), 0, 1e-9);
+        EXPECT_NEAR(ReadMarkupAt(f, low), 0, 1e-9);
+        EXPECT_NEAR(ReadMarkupAt(f, high), 0, 1e-9);
     } else {
         low = std::stod(Between(p.statement, kXIs, {"  and"}));
         high = std::stod(Between(p.statement, "and  " + kXIs, {".&LF"}));
@@ -76,7 +76,7 @@ void CheckOneFunctionArea(const GeneratedProblem& p) {
         while (pos < roots.size()) {
             auto next = roots.find(",  ", pos);
             if (next == std::string::npos) next = roots.size();
-            EXPECT_NEAR(EvaluateMarkup(f, std::stod(roots.substr(pos, next - pos))), 0, 1e-9) << p.code;
+            EXPECT_NEAR(ReadMarkupAt(f, std::stod(roots.substr(pos, next - pos))), 0, 1e-9) << p.code;
             pos = next + 3;
         }
     }
@@ -137,16 +137,16 @@ TEST(Areas, SweepTwoFunctions) {
             const std::string line = Between(p.statement, "the line  " + kY, {".&LF"});
             const double x1 = std::stod(Between(p.solution, kXIs, {"  and"}));
             const double x2 = std::stod(Between(p.solution, "and  " + kXIs, {".&LF"}));
-            EXPECT_NEAR(EvaluateMarkup(parabola, x1), EvaluateMarkup(line, x1), 1e-9) << p.code;
-            EXPECT_NEAR(EvaluateMarkup(parabola, x2), EvaluateMarkup(line, x2), 1e-9) << p.code;
+            EXPECT_NEAR(ReadMarkupAt(parabola, x1), ReadMarkupAt(line, x1), 1e-9) << p.code;
+            EXPECT_NEAR(ReadMarkupAt(parabola, x2), ReadMarkupAt(line, x2), 1e-9) << p.code;
             CheckAreaAnswer(p, AbsoluteArea(parabola, line, x1, x2));
         } else if (type == 1) {
             const std::string hyperbola = Between(p.statement, kY, {" and the line"});
             const double x1 = std::stod(Between(p.statement, "points " + kXIs, {"  and"}));
             const double x2 = std::stod(Between(p.statement, "and  " + kXIs, {".&LF"}));
             const std::string line = Between(p.solution, kY, {".&LF"});
-            EXPECT_NEAR(EvaluateMarkup(hyperbola, x1), EvaluateMarkup(line, x1), 1e-9) << p.code;
-            EXPECT_NEAR(EvaluateMarkup(hyperbola, x2), EvaluateMarkup(line, x2), 1e-9) << p.code;
+            EXPECT_NEAR(ReadMarkupAt(hyperbola, x1), ReadMarkupAt(line, x1), 1e-9) << p.code;
+            EXPECT_NEAR(ReadMarkupAt(hyperbola, x2), ReadMarkupAt(line, x2), 1e-9) << p.code;
             CheckAreaAnswer(p, AbsoluteArea(hyperbola, line, x1, x2));
         } else {
             // The parameter of the answer gives back the area of the statement.
@@ -155,7 +155,7 @@ TEST(Areas, SweepTwoFunctions) {
             EXPECT_GT(a, 0);
             const std::string curve = type == 2 ? "#COC(" + std::to_string(int(a)) + "x - x^2#N)(1#COC)"
                                                 : std::to_string(int(a)) + "x^2 - x^3";
-            EXPECT_NEAR(AbsoluteArea(curve, "", 0, a), EvaluateMarkup(area, 0), 1e-9) << p.code;
+            EXPECT_NEAR(AbsoluteArea(curve, "", 0, a), ReadMarkupAt(area, 0), 1e-9) << p.code;
         }
     });
 }

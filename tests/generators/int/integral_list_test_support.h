@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <set>
 
-#include "../lfd/markup_expression.h"
+#include "../lfd/calculus_checks.h"
 #include "support/generator_sweep.h"
 
 // Every item of a list: its antiderivative differentiates back to its integrand, and the

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "../lfd/markup_expression.h"
+#include "../lfd/calculus_checks.h"
 #include "generators/hub.h"
 #include "generators/int/rational_integrals.h"
 #include "support/generator_sweep.h"

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "generators/hub.h"
-#include "markup_expression.h"
+#include "calculus_checks.h"
 #include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
 
@@ -41,7 +41,7 @@ bool Holds(const PieceRow& r, double x) {
 
 double Value(const std::vector<PieceRow>& rows, double x) {
     for (const auto& r : rows)
-        if (Holds(r, x)) return EvaluateMarkup(r.expression, x);
+        if (Holds(r, x)) return ReadMarkupAt(r.expression, x);
     ADD_FAILURE() << "no row holds at " << x;
     return NAN;
 }
@@ -74,7 +74,7 @@ void CheckDerivability(const GeneratedProblem& p) {
     if (std::fabs(left - right) > 1e-5) {
         expected = "Has a jump discontinuity and hasn't derivative.";
     } else {
-        const double dl = (EvaluateMarkup(rows[0].expression, x0) - EvaluateMarkup(rows[0].expression, x0 - h)) / h;
+        const double dl = (ReadMarkupAt(rows[0].expression, x0) - ReadMarkupAt(rows[0].expression, x0 - h)) / h;
         const double dr = (Value(rows, x0 + h) - Value(rows, x0)) / h;
         expected = std::fabs(dl - dr) > 1e-3 ? "Continuous and hasn't derivative." : "Continuous and has derivative.";
         // The one-sided derivatives of the solution are those of the pieces.

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "generators/hub.h"
-#include "markup_expression.h"
+#include "calculus_checks.h"
 #include "support/generator_sweep.h"
 
 namespace {
@@ -15,9 +15,9 @@ std::string Strip(const std::string& text, const std::string& head) {
     return text.substr(head.size());
 }
 
-double Slope(const std::string& f, double x) {
+double Slope(const MarkupFormula& f, double x) {
     const double h = 1e-6;
-    return (EvaluateMarkup(f, x + h) - EvaluateMarkup(f, x - h)) / (2 * h);
+    return (f.RealAt(x + h) - f.RealAt(x - h)) / (2 * h);
 }
 
 void CheckTangents(const GeneratedProblem& p) {
@@ -29,15 +29,15 @@ void CheckTangents(const GeneratedProblem& p) {
         const std::string at = ",     &+Ix&-I_0 = ";
         const auto split = items[i].find(at);
         ASSERT_NE(split, std::string::npos) << items[i];
-        const std::string f = Strip(items[i].substr(0, split), kY);
+        const MarkupFormula f(Strip(items[i].substr(0, split), kY));
         const double x0 = std::stod(items[i].substr(split + at.size()));
-        const double y0 = EvaluateMarkup(f, x0), m = Slope(f, x0);
+        const double y0 = f.RealAt(x0), m = Slope(f, x0);
         ASSERT_TRUE(std::isfinite(y0)) << p.code << " " << items[i];
         const auto comma = answers[i].find(",     ");
         const std::string tangent = Strip(answers[i].substr(0, comma), kY);
         const std::string second = answers[i].substr(comma + 6);
-        EXPECT_NEAR(EvaluateMarkup(tangent, x0), y0, 1e-9) << p.code << " " << items[i] << " -> " << answers[i];
-        EXPECT_NEAR(EvaluateMarkup(tangent, x0 + 1) - EvaluateMarkup(tangent, x0), m, 1e-5 * std::max(1.0, std::fabs(m)))
+        EXPECT_NEAR(ReadMarkupAt(tangent, x0), y0, 1e-9) << p.code << " " << items[i] << " -> " << answers[i];
+        EXPECT_NEAR(ReadMarkupAt(tangent, x0 + 1) - ReadMarkupAt(tangent, x0), m, 1e-5 * std::max(1.0, std::fabs(m)))
             << p.code << " " << items[i] << " -> " << answers[i];
         if (second.rfind("&+Ix&-I = ", 0) == 0) {
             // A horizontal tangent and a vertical normal through the point.
@@ -45,8 +45,8 @@ void CheckTangents(const GeneratedProblem& p) {
             EXPECT_EQ(std::stod(second.substr(10)), x0) << p.code;
         } else {
             const std::string normal = Strip(second, kY);
-            EXPECT_NEAR(EvaluateMarkup(normal, x0), y0, 1e-9) << p.code << " " << answers[i];
-            const double n = EvaluateMarkup(normal, x0 + 1) - EvaluateMarkup(normal, x0);
+            EXPECT_NEAR(ReadMarkupAt(normal, x0), y0, 1e-9) << p.code << " " << answers[i];
+            const double n = ReadMarkupAt(normal, x0 + 1) - ReadMarkupAt(normal, x0);
             EXPECT_NEAR(n * m, -1, 1e-5) << p.code << " " << items[i] << " -> " << answers[i];
         }
     }
@@ -59,7 +59,7 @@ void CheckExtrema(const GeneratedProblem& p) {
     ASSERT_EQ(answers.size(), items.size());
     // Two items per problem are plenty over a thousand problems.
     for (std::size_t i = 0; i < items.size() && i < 2; ++i) {
-        const std::string f = CleanMarkup(Strip(items[i], kY));
+        const MarkupFormula f(Strip(items[i], kY));
         int listed = 0;
         std::size_t pos = 0;
         while ((pos = answers[i].find(" (", pos)) != std::string::npos) {
@@ -68,9 +68,9 @@ void CheckExtrema(const GeneratedProblem& p) {
             const auto close = answers[i].find(")", pos);
             const double x = std::stod(answers[i].substr(pos + 2, sep - pos - 2));
             const double y = std::stod(answers[i].substr(sep + 3, close - sep - 3));
-            EXPECT_NEAR(EvaluateMarkup(f, x), y, 1e-9) << p.code << " " << items[i];
+            EXPECT_NEAR(f.RealAt(x), y, 1e-9) << p.code << " " << items[i];
             EXPECT_NEAR(Slope(f, x), 0, 1e-5) << p.code << " " << items[i];
-            const double bend = EvaluateMarkup(f, x + 0.01) + EvaluateMarkup(f, x - 0.01) - 2 * y;
+            const double bend = f.RealAt(x + 0.01) + f.RealAt(x - 0.01) - 2 * y;
             EXPECT_EQ(kind, bend > 0 ? "Min" : "Max") << p.code << " " << items[i] << " -> " << answers[i];
             ++listed;
             pos = close;

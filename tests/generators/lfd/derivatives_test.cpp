@@ -5,7 +5,7 @@
 
 #include "generators/hub.h"
 #include "generators/lfd/derivative_items.h"
-#include "markup_expression.h"
+#include "calculus_checks.h"
 #include "support/generator_sweep.h"
 
 namespace {

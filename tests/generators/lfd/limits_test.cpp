@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "generators/hub.h"
-#include "markup_expression.h"
+#include "calculus_checks.h"
 #include "support/generator_sweep.h"
 
 namespace {
@@ -21,7 +21,7 @@ double AnswerValue(const std::string& solution) {
     std::string v = Between(solution, "&SP=10:", "&LF");
     if (v == "+&oo" || v == "&oo") return HUGE_VAL;
     if (v == "-&oo") return -HUGE_VAL;
-    return EvaluateMarkup(v, 0);
+    return ReadMarkupAt(v, 0);
 }
 
 void ExpectNearLimit(const GeneratedProblem& p, double near, double expected) {
@@ -48,13 +48,13 @@ void CheckLimit(const GeneratedProblem& p) {
     const double expected = AnswerValue(p.solution);
     const std::string trimmed = point.substr(0, point.find_last_not_of(' ') + 1);
     if (trimmed == "&oo") {
-        ExpectNearLimit(p, EvaluateMarkup(body, 1e6), expected);
+        ExpectNearLimit(p, ReadMarkupAt(body, 1e6), expected);
     } else {
         const double a = std::stod(trimmed);
         // The expression is not defined at the point itself: the text hides a 0/0.
-        EXPECT_FALSE(std::isfinite(EvaluateMarkup(body, a))) << p.code << " " << p.statement;
-        ExpectNearLimit(p, EvaluateMarkup(body, a + 1e-6), expected);
-        ExpectNearLimit(p, EvaluateMarkup(body, a - 1e-6), expected);
+        EXPECT_FALSE(std::isfinite(ReadMarkupAt(body, a))) << p.code << " " << p.statement;
+        ExpectNearLimit(p, ReadMarkupAt(body, a + 1e-6), expected);
+        ExpectNearLimit(p, ReadMarkupAt(body, a - 1e-6), expected);
     }
     // The answer never shows a division by zero.
     EXPECT_EQ(p.solution.find("#N)(0#COC)"), std::string::npos) << p.code;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "generators/hub.h"
-#include "markup_expression.h"
+#include "calculus_checks.h"
 #include "support/generator_sweep.h"
 
 namespace {
@@ -93,7 +93,7 @@ void CheckConditions(const GeneratedProblem& p) {
             const double x = NumberAfter(phrase, "value is ");
             const auto eq = phrase.find("& =& ") + 5;
             const std::string line = phrase.substr(eq, phrase.find("  at the") - eq);
-            const double q = EvaluateMarkup(line, 0), m = EvaluateMarkup(line, 1) - q;
+            const double q = ReadMarkupAt(line, 0), m = ReadMarkupAt(line, 1) - q;
             add(SlopeRow(x), m);
             add(ValueRow(x), m * x + q);
         } else if (phrase.rfind("has an inflection point at  ", 0) == 0) {

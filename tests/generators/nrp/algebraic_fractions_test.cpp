@@ -2,9 +2,10 @@
 
 #include <cmath>
 
-#include "algebra_markup_value.h"
+#include "algebra_test_helpers.h"
 #include "generators/hub.h"
 #include "support/generator_sweep.h"
+#include "support/markup_reader.h"
 
 using namespace algebra_test;
 
@@ -12,9 +13,7 @@ namespace {
 const double kSamples[] = {0.37, 1.93, -2.71, 11.5};
 
 std::complex<double> ValueAt(const std::string& text, double x, const std::string& code) {
-    const auto v = MarkupValue(text, x);
-    EXPECT_TRUE(v.has_value()) << code << ": cannot read " << text;
-    return v.value_or(std::nan(""));
+    return ExpectComplexValue(text, {{'x', x}}, code);
 }
 
 // The simplified answer has the value of the statement, and its numerator and
@@ -26,7 +25,7 @@ void CheckFractions(const GeneratedProblem& p) {
     ASSERT_EQ(answers.size(), items.size()) << p.code;
     for (std::size_t i = 0; i < items.size(); ++i) {
         for (double x : kSamples) {
-            EXPECT_TRUE(Near(ValueAt(items[i], x, p.code), ValueAt(answers[i], x, p.code), 1e-9))
+            EXPECT_TRUE(NearlyEqual(ValueAt(items[i], x, p.code), ValueAt(answers[i], x, p.code), 1e-9))
                 << p.code << ": " << items[i] << "  vs  " << answers[i] << " at " << x;
         }
         const std::string& a = answers[i];

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "algebra_markup_value.h"
+#include "algebra_test_helpers.h"
 #include "generators/hub.h"
 #include "generators/nrp/algebra_items.h"
 #include "mathservices/number_markup.h"
@@ -13,7 +13,7 @@ using namespace algebra_test;
 namespace {
 // Checks one angle drill: each item recomputed from its text.
 void CheckAngleDrill(const GeneratedProblem& p, int operation) {
-    const auto items = LetteredTexts(p.statement, ")&-B ");
+    const auto items = LetteredItems(p.statement, ")&-B ");
     const auto answers = SolutionItems(p.solution);
     ASSERT_EQ(static_cast<int>(items.size()), std::clamp(p.fields.ItemCount, 1, 26)) << p.code;
     ASSERT_EQ(answers.size(), items.size()) << p.code;
@@ -75,7 +75,7 @@ TEST(Angles, Divisions) { SweepRoutine("KVOL_MATH_NRP", 30, 2000, [](const Gener
 
 TEST(Angles, ComplementAndSupplement) {
     SweepRoutine("KVOL_MATH_NRP", 31, 2000, [](const GeneratedProblem& p) {
-        const auto items = LetteredTexts(p.statement, ")&-B ");
+        const auto items = LetteredItems(p.statement, ")&-B ");
         const auto answers = SolutionItems(p.solution);
         ASSERT_EQ(static_cast<int>(items.size()), std::clamp(p.fields.ItemCount, 1, 26)) << p.code;
         ASSERT_EQ(answers.size(), items.size()) << p.code;

@@ -3,11 +3,12 @@
 #include <cmath>
 #include <regex>
 
-#include "algebra_markup_value.h"
+#include "algebra_test_helpers.h"
 #include "generators/hub.h"
 #include "generators/nrp/algebra_items.h"
 #include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
+#include "support/markup_reader.h"
 
 using namespace algebra_test;
 
@@ -15,9 +16,7 @@ namespace {
 using Complex = std::complex<double>;
 
 Complex Value(const std::string& text, const std::string& code) {
-    const auto v = MarkupValue(text);
-    EXPECT_TRUE(v.has_value()) << code << ": cannot read " << text;
-    return v.value_or(std::nan(""));
+    return ExpectComplexValue(text, {}, code);
 }
 
 struct Drill {
@@ -25,7 +24,7 @@ struct Drill {
 };
 
 Drill ReadDrill(const GeneratedProblem& p) {
-    Drill d{LetteredTexts(p.statement, ")&-B  "), SolutionItems(p.solution)};
+    Drill d{LetteredItems(p.statement, ")&-B  "), SolutionItems(p.solution)};
     EXPECT_EQ(static_cast<int>(d.items.size()), std::clamp(p.fields.ItemCount, 1, 26)) << p.code;
     EXPECT_EQ(d.answers.size(), d.items.size()) << p.code;
     EXPECT_TRUE(AllDistinct(d.items)) << p.code;
@@ -61,7 +60,7 @@ TEST(ComplexNumbers, SumsAndDifferences) {
     SweepRoutine("KVOL_MATH_NRP", 33, 2000, [](const GeneratedProblem& p) {
         const Drill d = ReadDrill(p);
         for (std::size_t i = 0; i < d.items.size() && i < d.answers.size(); ++i) {
-            EXPECT_TRUE(Near(Value(d.items[i], p.code), Value(d.answers[i], p.code), 1e-9))
+            EXPECT_TRUE(NearlyEqual(Value(d.items[i], p.code), Value(d.answers[i], p.code), 1e-9))
                 << p.code << ": " << d.items[i] << " = " << d.answers[i];
             ExpectNoZeroPart(d.answers[i]);
             EXPECT_EQ(d.items[i].rfind("#NES(()", 0), 0u) << d.items[i];
@@ -73,7 +72,7 @@ TEST(ComplexNumbers, ProductsAndQuotients) {
     SweepRoutine("KVOL_MATH_NRP", 34, 2000, [](const GeneratedProblem& p) {
         const Drill d = ReadDrill(p);
         for (std::size_t i = 0; i < d.items.size() && i < d.answers.size(); ++i) {
-            EXPECT_TRUE(Near(Value(d.items[i], p.code), Value(d.answers[i], p.code), 1e-9))
+            EXPECT_TRUE(NearlyEqual(Value(d.items[i], p.code), Value(d.answers[i], p.code), 1e-9))
                 << p.code << ": " << d.items[i] << " = " << d.answers[i];
             ExpectNoZeroPart(d.answers[i]);
         }
@@ -87,7 +86,7 @@ TEST(ComplexNumbers, CartesianPolarConversions) {
             // One side is polar, the other cartesian.
             const bool polarItem = d.items[i].find("#SPB(") != std::string::npos;
             EXPECT_NE(polarItem, d.answers[i].find("#SPB(") != std::string::npos) << d.items[i] << d.answers[i];
-            EXPECT_TRUE(Near(Value(d.items[i], p.code), Value(d.answers[i], p.code), 2e-5))
+            EXPECT_TRUE(NearlyEqual(Value(d.items[i], p.code), Value(d.answers[i], p.code), 2e-5))
                 << p.code << ": " << d.items[i] << " = " << d.answers[i];
             ExpectSquareFreeRoots(d.answers[i]);
             if (polarItem) {
@@ -104,8 +103,8 @@ TEST(ComplexNumbers, PolarProductsAndQuotients) {
         for (std::size_t i = 0; i < d.items.size() && i < d.answers.size(); ++i) {
             const auto [polar, cartesian] = BothForms(d.answers[i]);
             const Complex v = Value(d.items[i], p.code);
-            EXPECT_TRUE(Near(v, Value(polar, p.code), 5e-5)) << p.code << ": " << d.items[i] << " = " << polar;
-            EXPECT_TRUE(Near(v, Value(cartesian, p.code), 5e-5)) << p.code << ": " << d.items[i] << " = " << cartesian;
+            EXPECT_TRUE(NearlyEqual(v, Value(polar, p.code), 5e-5)) << p.code << ": " << d.items[i] << " = " << polar;
+            EXPECT_TRUE(NearlyEqual(v, Value(cartesian, p.code), 5e-5)) << p.code << ": " << d.items[i] << " = " << cartesian;
             EXPECT_EQ(cartesian.find("#COC("), std::string::npos) << cartesian;
             ExpectSquareFreeRoots(polar);
         }
@@ -118,8 +117,8 @@ TEST(ComplexNumbers, Powers) {
         for (std::size_t i = 0; i < d.items.size() && i < d.answers.size(); ++i) {
             const auto [polar, cartesian] = BothForms(d.answers[i]);
             const Complex v = Value(d.items[i], p.code);
-            EXPECT_TRUE(Near(v, Value(polar, p.code), 1e-4)) << p.code << ": " << d.items[i] << " = " << polar;
-            EXPECT_TRUE(Near(v, Value(cartesian, p.code), 1e-4)) << p.code << ": " << d.items[i] << " = " << cartesian;
+            EXPECT_TRUE(NearlyEqual(v, Value(polar, p.code), 1e-4)) << p.code << ": " << d.items[i] << " = " << polar;
+            EXPECT_TRUE(NearlyEqual(v, Value(cartesian, p.code), 1e-4)) << p.code << ": " << d.items[i] << " = " << cartesian;
             EXPECT_TRUE(std::regex_search(d.items[i], std::regex("\\)\\^[2-5]$"))) << d.items[i];
             ExpectSquareFreeRoots(polar);
         }
@@ -146,8 +145,8 @@ TEST(ComplexNumbers, Roots) {
             std::vector<Complex> values;
             for (const std::string& r : roots) {
                 const Complex w = Value(r, p.code);
-                EXPECT_TRUE(Near(std::pow(w, n), z, 1e-4)) << p.code << ": " << r << " ^" << n << " vs " << m[2].str();
-                for (const Complex& u : values) EXPECT_FALSE(Near(u, w, 1e-3)) << d.answers[i];
+                EXPECT_TRUE(NearlyEqual(std::pow(w, n), z, 1e-4)) << p.code << ": " << r << " ^" << n << " vs " << m[2].str();
+                for (const Complex& u : values) EXPECT_FALSE(NearlyEqual(u, w, 1e-3)) << d.answers[i];
                 values.push_back(w);
             }
         }

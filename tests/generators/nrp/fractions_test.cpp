@@ -7,6 +7,7 @@
 #include "generators/hub.h"
 #include "generators/nrp/drill_items.h"
 #include "generators/nrp/nrp_test_helpers.h"
+#include "support/markup_reader.h"
 #include "mathservices/arithmetic.h"
 
 namespace {
@@ -22,7 +23,7 @@ void ExpectReducedAnswers(const GeneratedProblem& p) {
         EXPECT_GT(d, 0) << answers[i];
         EXPECT_EQ(std::gcd(n, d), n == 0 ? d : 1) << answers[i];
         double value = 0;
-        ASSERT_NO_THROW(value = MarkupValue(items[i])) << p.code << " " << items[i];
+        ASSERT_NO_THROW(value = ReadMarkupReal(items[i])) << p.code << " " << items[i];
         EXPECT_TRUE(SameValue(value, static_cast<double>(n) / static_cast<double>(d)))
             << p.code << " " << items[i] << " = " << answers[i];
     }

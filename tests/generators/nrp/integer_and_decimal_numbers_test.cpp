@@ -6,6 +6,7 @@
 
 #include "generators/hub.h"
 #include "generators/nrp/nrp_test_helpers.h"
+#include "support/markup_reader.h"
 #include "mathservices/arithmetic.h"
 
 namespace {
@@ -18,8 +19,8 @@ void ExpectItemsEqualAnswers(const GeneratedProblem& p,
     ASSERT_EQ(items.size(), answers.size()) << p.code;
     for (std::size_t i = 0; i < items.size(); ++i) {
         double left = 0, right = 0;
-        ASSERT_NO_THROW(left = MarkupValue(items[i])) << p.code << " " << items[i];
-        ASSERT_NO_THROW(right = MarkupValue(answers[i])) << p.code << " " << answers[i];
+        ASSERT_NO_THROW(left = ReadMarkupReal(items[i])) << p.code << " " << items[i];
+        ASSERT_NO_THROW(right = ReadMarkupReal(answers[i])) << p.code << " " << answers[i];
         EXPECT_TRUE(SameValue(left, right)) << p.code << " " << items[i] << " = " << answers[i] << " (" << left << ")";
         if (more) more(items[i], right);
     }
@@ -29,7 +30,9 @@ void ExpectItemsEqualAnswers(const GeneratedProblem& p,
 void ExpectNegativesInParentheses(const std::string& item) {
     for (std::size_t at = item.find('-'); at != std::string::npos; at = item.find('-', at + 1)) {
         const bool ofNumber = at + 1 < item.size() && std::isdigit(static_cast<unsigned char>(item[at + 1]));
-        if (ofNumber) EXPECT_TRUE(at > 0 && item[at - 1] == '(') << item;
+        if (ofNumber) {
+            EXPECT_TRUE(at > 0 && item[at - 1] == '(') << item;
+        }
     }
 }
 

@@ -4,14 +4,8 @@
 
 #include "support/generator_sweep.h"
 
-// Helpers of the drill tests: a numeric reading of the markup of an item, so that a
-// statement and its answer can be compared as numbers, and small text parsers.
-
-// The value of the markup of an expression: numbers with grouped digits, "&." and a
-// repeating block under "#ARC(", + - × :, parentheses and brackets, "#COC(" fractions,
-// "#SQR(", "#RAD(" roots, "#POT(" powers, "^" one-digit powers, "#NES(" delimiters,
-// and a number standing before a root as a product. Throws on anything else.
-double MarkupValue(const std::string& markup);
+// Helpers of the drill tests: small text parsers. Items are read as numbers with
+// ReadMarkupReal.
 
 // True when a and b agree to a relative 1e-9.
 bool SameValue(double a, double b);

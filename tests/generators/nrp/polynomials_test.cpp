@@ -3,11 +3,12 @@
 #include <cmath>
 #include <regex>
 
-#include "algebra_markup_value.h"
+#include "algebra_test_helpers.h"
 #include "generators/hub.h"
 #include "generators/nrp/algebra_items.h"
 #include "mathservices/poly_markup.h"
 #include "support/generator_sweep.h"
+#include "support/markup_reader.h"
 
 using namespace algebra_test;
 
@@ -23,14 +24,12 @@ GeneratorWorkspace SeededWorkspace(int seed) {
 
 // Reads a polynomial in x at a point, failing the test when the text is unreadable.
 std::complex<double> ValueAt(const std::string& text, double x, const std::string& code) {
-    const auto v = MarkupValue(text, x);
-    EXPECT_TRUE(v.has_value()) << code << ": cannot read " << text;
-    return v.value_or(std::nan(""));
+    return ExpectComplexValue(text, {{'x', x}}, code);
 }
 
 void ExpectSameValues(const std::string& left, const std::string& right, const std::string& code) {
     for (double x : kSamples) {
-        EXPECT_TRUE(Near(ValueAt(left, x, code), ValueAt(right, x, code), 1e-9))
+        EXPECT_TRUE(NearlyEqual(ValueAt(left, x, code), ValueAt(right, x, code), 1e-9))
             << code << ": " << left << "  vs  " << right << " at " << x;
     }
 }
@@ -133,7 +132,7 @@ TEST(Polynomials, DivisionQuotientAndRemainder) {
                 const auto d = ValueAt(dividend, x, p.code);
                 const auto rebuilt = ValueAt(quotient, x, p.code) * ValueAt(divisor, x, p.code) +
                                      ValueAt(remainder, x, p.code);
-                EXPECT_TRUE(Near(d, rebuilt, 1e-9)) << p.code << ": " << items[i] << " / " << answers[i];
+                EXPECT_TRUE(NearlyEqual(d, rebuilt, 1e-9)) << p.code << ": " << items[i] << " / " << answers[i];
             }
             // By x - a the remainder is a number; by a quadratic it is at most linear.
             if (divisor.find("^2") == std::string::npos) {

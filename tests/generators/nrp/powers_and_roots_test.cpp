@@ -8,6 +8,7 @@
 #include "generators/hub.h"
 #include "generators/nrp/drill_items.h"
 #include "generators/nrp/nrp_test_helpers.h"
+#include "support/markup_reader.h"
 #include "mathservices/arithmetic.h"
 
 namespace {
@@ -34,8 +35,8 @@ std::vector<std::string> ExpectUprightDrill(const GeneratedProblem& p, int maxAm
     for (std::size_t i = 0; i < items.size() && i < answers.size(); ++i) {
         for (std::size_t j = 0; j < i; ++j) EXPECT_NE(items[i], items[j]) << p.code;
         double left = 0, right = 0;
-        EXPECT_NO_THROW(left = MarkupValue(items[i])) << p.code << " " << items[i];
-        EXPECT_NO_THROW(right = MarkupValue(answers[i])) << p.code << " " << answers[i];
+        EXPECT_NO_THROW(left = ReadMarkupReal(items[i])) << p.code << " " << items[i];
+        EXPECT_NO_THROW(right = ReadMarkupReal(answers[i])) << p.code << " " << answers[i];
         EXPECT_TRUE(SameValue(left, right)) << p.code << " " << items[i] << " = " << answers[i] << " (" << left
                                             << " against " << right << ")";
     }
@@ -93,7 +94,7 @@ TEST(SquareRootSums, TermsCombine) {
         EXPECT_TRUE(factor) << item.texts.statement;
         EXPECT_EQ(total, item.total);
         EXPECT_NE(total, 0);
-        EXPECT_TRUE(SameValue(MarkupValue(item.texts.statement), total * std::sqrt(item.prime)))
+        EXPECT_TRUE(SameValue(ReadMarkupReal(item.texts.statement), total * std::sqrt(item.prime)))
             << item.texts.statement;
     }
 }
@@ -125,7 +126,7 @@ TEST(SingleRoots, EveryTypeDrawsItsRecord) {
         ws.stream.SeedStream(seed);
         const SingleRootItem item = DrawSingleRoot(ws, 1 + seed % 6);
         if (item.texts.statement.empty()) continue;
-        EXPECT_TRUE(SameValue(MarkupValue(item.texts.statement), std::pow(item.prime, item.exponent / item.index)))
+        EXPECT_TRUE(SameValue(ReadMarkupReal(item.texts.statement), std::pow(item.prime, item.exponent / item.index)))
             << item.texts.statement;
         EXPECT_EQ(std::gcd(static_cast<long long>(item.index), static_cast<long long>(item.exponent)), 1);
         EXPECT_GE(item.index, 2);
@@ -238,7 +239,7 @@ TEST(SquareRootRationalisation, EveryTypeGivesReducedAnswers) {
         const ItemTexts item = DrawSquareRootRationalisation(ws, type);
         if (item.statement.empty()) continue;
         ++made[type];
-        EXPECT_TRUE(SameValue(MarkupValue(item.statement), MarkupValue(item.solution))) << item.statement;
+        EXPECT_TRUE(SameValue(ReadMarkupReal(item.statement), ReadMarkupReal(item.solution))) << item.statement;
         if (type >= 4) {
             std::smatch m;
             ASSERT_TRUE(std::regex_match(item.solution, m, conjugate)) << item.solution;
@@ -275,7 +276,7 @@ TEST(NthRootRationalisation, BothTypes) {
         const int type = 1 + seed % 2;
         const ItemTexts item = DrawNthRootRationalisation(ws, type);
         if (item.statement.empty()) continue;
-        EXPECT_TRUE(SameValue(MarkupValue(item.statement), MarkupValue(item.solution))) << item.statement;
+        EXPECT_TRUE(SameValue(ReadMarkupReal(item.statement), ReadMarkupReal(item.solution))) << item.statement;
         const bool power = item.statement.find('^') != std::string::npos;
         EXPECT_EQ(power, type == 1) << item.statement;
         (power ? powers : values) += 1;

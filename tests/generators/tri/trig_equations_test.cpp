@@ -13,23 +13,6 @@
 // The equation lists of both modules draw rows of one table; each item must show a row's
 // equation and its own answers, and no row twice in one problem.
 namespace {
-std::vector<std::string> ListItems(const std::string& text, const std::string& lead) {
-    std::vector<std::string> out;
-    std::size_t pos = 0;
-    for (int i = 0; i < 26; ++i) {
-        const std::string open = "&+B" + std::string(1, static_cast<char>('a' + i)) + ")&-B" + lead;
-        pos = text.find(open, pos);
-        if (pos == std::string::npos) break;
-        pos += open.size();
-        auto end = text.find("&SP=", pos);
-        if (end == std::string::npos) end = text.size();
-        std::string item = text.substr(pos, end - pos);
-        while (item.size() >= 3 && item.compare(item.size() - 3, 3, "&LF") == 0) item.erase(item.size() - 3);
-        out.push_back(item);
-    }
-    return out;
-}
-
 // The expanded rows of the table, for finding an item's row.
 struct ExpandedRows {
     std::map<std::string, int> scriptBlank, blank;
@@ -51,8 +34,8 @@ int RowOf(const std::string& item, const std::string& squareWith) {
 
 void CheckList(const GeneratedProblem& p, const std::string& lead, const std::string& squareWith) {
     const int n = std::clamp(p.fields.ItemCount, 1, 26);
-    const auto items = ListItems(p.statement, lead);
-    const auto answers = ListItems(p.solution, lead);
+    const auto items = LetteredItems(p.statement, ")&-B" + lead);
+    const auto answers = LetteredItems(p.solution, ")&-B" + lead);
     ASSERT_EQ(static_cast<int>(items.size()), n) << p.code;
     ASSERT_EQ(static_cast<int>(answers.size()), n) << p.code;
     std::set<int> rows;
@@ -101,8 +84,8 @@ TEST(TrigEquations, TwentySixDistinctRowsAndTheClip) {
     for (int count : {26, 27, 30, 99}) {
         const GeneratedProblem a = GenerateProblem(hub, "KVOL_MATH_ECU", {14, 5, 1234, count, 1, 1});
         const GeneratedProblem b = GenerateProblem(hub, "KVOL_MATH_TRI", {4, 5, 1234, count, 1, 1});
-        EXPECT_EQ(ListItems(a.statement, "  ").size(), 26u);
-        EXPECT_EQ(ListItems(b.statement, " ").size(), 26u);
+        EXPECT_EQ(LetteredItems(a.statement, ")&-B  ").size(), 26u);
+        EXPECT_EQ(LetteredItems(b.statement).size(), 26u);
     }
 }
 
@@ -120,8 +103,8 @@ TEST(TrigEquations, TheTwoListsDifferOnlyInTheSquare) {
     GeneratorHub hub;
     const GeneratedProblem e = GenerateProblem(hub, "KVOL_MATH_ECU", {14, 0, 2024, 12, 1, 1});
     const GeneratedProblem t = GenerateProblem(hub, "KVOL_MATH_TRI", {4, 0, 2024, 12, 1, 1});
-    const auto ei = ListItems(e.statement, "  ");
-    const auto ti = ListItems(t.statement, " ");
+    const auto ei = LetteredItems(e.statement, ")&-B  ");
+    const auto ti = LetteredItems(t.statement);
     ASSERT_EQ(ei.size(), ti.size());
     for (std::size_t i = 0; i < ei.size(); ++i) {
         EXPECT_EQ(RowOf(ei[i], kTrigSquareWithBlank), RowOf(ti[i], kTrigSquareWithScriptBlank));

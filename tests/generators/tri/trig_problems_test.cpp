@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "../ecu/expression_eval.h"
+#include "support/markup_reader.h"
 #include "generators/hub.h"
 #include "generators/tri/tri_records.h"
 #include "mathservices/arithmetic.h"
@@ -44,7 +44,7 @@ std::map<std::string, double> NamedValues(const std::string& text) {
                 }
                 std::string value = text.substr(eq + 1, end - eq - 1);
                 if (value.rfind("& ", 0) == 0) value.erase(0, 2);
-                out[name] = EvaluateMarkup(value, {});
+                out[name] = ReadMarkupReal(value);
             }
             at += 1;
         }

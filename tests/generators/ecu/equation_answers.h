@@ -3,10 +3,8 @@
 #include <string>
 #include <vector>
 
-// Reads the markup of a school expression back as a number, for checking generated
-// equations by substitution: fractions, square roots, powers, logarithms, delimiters,
-// implicit products and the letters of unknowns. NaN where the expression is undefined.
-double EvaluateMarkup(const std::string& markup, const std::map<char, double>& values);
+// Reading equations, systems and their answers apart; the parts are read as numbers with
+// ReadMarkupReal.
 
 // An equation or inequation split at its relation: left, relation ("=", "<", ">", "<=",
 // ">="), right. The relation is the one between "& " marks at the top level.

@@ -3,7 +3,7 @@
 #   ./test.sh                     the optimised build in build/
 #   ./test.sh --sanitize          the AddressSanitizer + UndefinedBehaviorSanitizer build in
 #                                 build-sanitize/, every test; any sanitizer report fails
-#   ./test.sh --sanitize --fast   the same build over the tests labelled fast only
+#   ./test.sh --sanitize --fast   the same build without the generator sweeps
 set -euo pipefail
 cd "$(dirname "$0")"
 sanitize=0

@@ -5,15 +5,7 @@
 #include "cli/cli_commands.h"
 #include "generators/catalogue.h"
 #include "generators/hub.h"
-
-namespace {
-std::string Trim(const std::string& s) {
-    const auto first = s.find_first_not_of(' ');
-    if (first == std::string::npos) return "";
-    const auto last = s.find_last_not_of(' ');
-    return s.substr(first, last - first + 1);
-}
-} // namespace
+#include "mathservices/utf8_text.h"
 
 int RunCatalogueCommand(const CliArguments& args) {
     if (!args.empty()) {
@@ -31,10 +23,10 @@ int RunCatalogueCommand(const CliArguments& args) {
     });
     for (const auto& e : entries) {
         if (e.Kind == "5") {
-            std::cout << e.TopicId << " " << Trim(e.TopicName) << "\n";
+            std::cout << e.TopicId << " " << TrimBlanks(e.TopicName) << "\n";
         } else {
             std::cout << "    " << e.moduleName << " " << e.RoutineId << "  subtopic " << e.SubtopicId << "  kind "
-                      << e.Kind << "  max " << e.MaxAmount << "  " << Trim(e.Title) << "\n";
+                      << e.Kind << "  max " << e.MaxAmount << "  " << TrimBlanks(e.Title) << "\n";
         }
     }
     return 0;

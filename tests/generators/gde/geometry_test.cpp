@@ -340,7 +340,9 @@ Expectation PlaneSolids(int type, const Shape& s) {
         const double a = s.at("a"), b = s.at("b"), c = s.at("c");
         const double d = WholeRoot(a * a + b * b + c * c, "space diagonal");
         const double area = 2 * (a * b + b * c + c * a), volume = a * b * c;
-        if (type == 1 || type == 9) EXPECT_EQ(a, b) << "the base is a square";
+        if (type == 1 || type == 9) {
+            EXPECT_EQ(a, b) << "the base is a square";
+        }
         if (type == 1) return {{Text(a), Text(volume)}, {c, d, area}};
         if (type == 9) return {{Text(a), Text(c)}, {d, area, volume}};
         if (type == 4) return {{Text(a), Text(b), Text(c)}, {d, area, volume}};

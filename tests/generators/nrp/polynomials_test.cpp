@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <regex>
 
 #include "algebra_test_helpers.h"
@@ -41,52 +42,48 @@ void ExpectNoZeroTerm(const std::string& text, const std::string& code) {
 }
 
 int Items(const GeneratedProblem& p) { return std::clamp(p.fields.ItemCount, 1, 26); }
-} // namespace
 
-TEST(Polynomials, SumsAndDifferencesAreRight) {
-    SweepRoutine("KVOL_MATH_NRP", 16, 2000, [](const GeneratedProblem& p) {
+// Sweeps a drill of the module and hands each statement item with its answer to check,
+// once the problem has as many answers as items and as many items as it asked for.
+void SweepItemsAndAnswers(int routine,
+                          const std::function<void(const std::string& item, const std::string& answer,
+                                                   const std::string& code)>& check) {
+    SweepRoutine("KVOL_MATH_NRP", routine, 2000, [&](const GeneratedProblem& p) {
         const auto items = StatementItems(p.statement);
         const auto answers = SolutionItems(p.solution);
         ASSERT_EQ(static_cast<int>(items.size()), Items(p)) << p.code;
         ASSERT_EQ(answers.size(), items.size()) << p.code;
-        for (std::size_t i = 0; i < items.size(); ++i) {
-            ExpectSameValues(items[i], answers[i], p.code);
-            ExpectNoZeroTerm(items[i], p.code);
-            ExpectNoZeroTerm(answers[i], p.code);
-            EXPECT_TRUE(items[i].find(" )  +  ( ") != std::string::npos || items[i].find(" )  -  ( ") != std::string::npos)
-                << items[i];
-        }
+        for (std::size_t i = 0; i < items.size(); ++i) check(items[i], answers[i], p.code);
+    });
+}
+} // namespace
+
+TEST(Polynomials, SumsAndDifferencesAreRight) {
+    SweepItemsAndAnswers(16, [](const std::string& item, const std::string& answer, const std::string& code) {
+        ExpectSameValues(item, answer, code);
+        ExpectNoZeroTerm(item, code);
+        ExpectNoZeroTerm(answer, code);
+        EXPECT_TRUE(item.find(" )  +  ( ") != std::string::npos || item.find(" )  -  ( ") != std::string::npos)
+            << item;
     });
 }
 
 TEST(Polynomials, ProductsAndPowersOfBinomialsAreRight) {
-    SweepRoutine("KVOL_MATH_NRP", 17, 2000, [](const GeneratedProblem& p) {
-        const auto items = StatementItems(p.statement);
-        const auto answers = SolutionItems(p.solution);
-        ASSERT_EQ(static_cast<int>(items.size()), Items(p)) << p.code;
-        ASSERT_EQ(answers.size(), items.size()) << p.code;
-        for (std::size_t i = 0; i < items.size(); ++i) {
-            ExpectSameValues(items[i], answers[i], p.code);
-            ExpectNoZeroTerm(answers[i], p.code);
-        }
+    SweepItemsAndAnswers(17, [](const std::string& item, const std::string& answer, const std::string& code) {
+        ExpectSameValues(item, answer, code);
+        ExpectNoZeroTerm(answer, code);
     });
 }
 
 TEST(Polynomials, FactorizationsMultiplyBack) {
-    SweepRoutine("KVOL_MATH_NRP", 18, 2000, [](const GeneratedProblem& p) {
-        const auto items = StatementItems(p.statement);
-        const auto answers = SolutionItems(p.solution);
-        ASSERT_EQ(static_cast<int>(items.size()), Items(p)) << p.code;
-        ASSERT_EQ(answers.size(), items.size()) << p.code;
-        for (std::size_t i = 0; i < items.size(); ++i) {
-            ExpectSameValues(items[i], answers[i], p.code);
-            ExpectNoZeroTerm(items[i], p.code);
-            // Every factor is x or a binomial x - r with a whole r.
-            static const std::regex factor("\\( &\\+Ix&-I& [-+]& [0-9]+ \\)");
-            std::string rest = std::regex_replace(answers[i], factor, "F");
-            rest = std::regex_replace(rest, std::regex("&\\+Ix&-I"), "F");
-            EXPECT_TRUE(std::regex_match(rest, std::regex("([0-9]+ )?F(\\^[0-9])?( F(\\^[0-9])?)*"))) << answers[i];
-        }
+    SweepItemsAndAnswers(18, [](const std::string& item, const std::string& answer, const std::string& code) {
+        ExpectSameValues(item, answer, code);
+        ExpectNoZeroTerm(item, code);
+        // Every factor is x or a binomial x - r with a whole r.
+        static const std::regex factor("\\( &\\+Ix&-I& [-+]& [0-9]+ \\)");
+        std::string rest = std::regex_replace(answer, factor, "F");
+        rest = std::regex_replace(rest, std::regex("&\\+Ix&-I"), "F");
+        EXPECT_TRUE(std::regex_match(rest, std::regex("([0-9]+ )?F(\\^[0-9])?( F(\\^[0-9])?)*"))) << answer;
     });
 }
 
@@ -111,35 +108,29 @@ TEST(Polynomials, RepeatedRootGivesAnExponentAndTheExpandedProduct) {
 }
 
 TEST(Polynomials, DivisionQuotientAndRemainder) {
-    SweepRoutine("KVOL_MATH_NRP", 19, 2000, [](const GeneratedProblem& p) {
-        const auto items = StatementItems(p.statement);
-        const auto answers = SolutionItems(p.solution);
-        ASSERT_EQ(static_cast<int>(items.size()), Items(p)) << p.code;
-        ASSERT_EQ(answers.size(), items.size()) << p.code;
-        for (std::size_t i = 0; i < items.size(); ++i) {
-            const auto split = items[i].find(" ) : ( ");
-            ASSERT_NE(split, std::string::npos) << items[i];
-            const std::string dividend = items[i].substr(2, split - 2);
-            const std::string divisor = items[i].substr(split + 7, items[i].size() - split - 9);
-            const std::string head = " &+Iq&-I = ";
-            const auto comma = answers[i].find(",  &+Ir&-I = ");
-            ASSERT_EQ(answers[i].rfind(head, 0), 0u) << answers[i];
-            ASSERT_NE(comma, std::string::npos) << answers[i];
-            const std::string quotient = answers[i].substr(head.size(), comma - head.size());
-            const std::string remainder = answers[i].substr(comma + 13);
-            // dividend = quotient · divisor + remainder, with the remainder of lower degree.
-            for (double x : kSamples) {
-                const auto d = ValueAt(dividend, x, p.code);
-                const auto rebuilt = ValueAt(quotient, x, p.code) * ValueAt(divisor, x, p.code) +
-                                     ValueAt(remainder, x, p.code);
-                EXPECT_TRUE(NearlyEqual(d, rebuilt, 1e-9)) << p.code << ": " << items[i] << " / " << answers[i];
-            }
-            // By x - a the remainder is a number; by a quadratic it is at most linear.
-            if (divisor.find("^2") == std::string::npos) {
-                EXPECT_EQ(remainder.find("&+Ix"), std::string::npos) << answers[i];
-            }
-            EXPECT_EQ(remainder.find("^"), std::string::npos) << answers[i];
+    SweepItemsAndAnswers(19, [](const std::string& item, const std::string& answer, const std::string& code) {
+        const auto split = item.find(" ) : ( ");
+        ASSERT_NE(split, std::string::npos) << item;
+        const std::string dividend = item.substr(2, split - 2);
+        const std::string divisor = item.substr(split + 7, item.size() - split - 9);
+        const std::string head = " &+Iq&-I = ";
+        const auto comma = answer.find(",  &+Ir&-I = ");
+        ASSERT_EQ(answer.rfind(head, 0), 0u) << answer;
+        ASSERT_NE(comma, std::string::npos) << answer;
+        const std::string quotient = answer.substr(head.size(), comma - head.size());
+        const std::string remainder = answer.substr(comma + 13);
+        // dividend = quotient · divisor + remainder, with the remainder of lower degree.
+        for (double x : kSamples) {
+            const auto d = ValueAt(dividend, x, code);
+            const auto rebuilt = ValueAt(quotient, x, code) * ValueAt(divisor, x, code) +
+                                 ValueAt(remainder, x, code);
+            EXPECT_TRUE(NearlyEqual(d, rebuilt, 1e-9)) << code << ": " << item << " / " << answer;
         }
+        // By x - a the remainder is a number; by a quadratic it is at most linear.
+        if (divisor.find("^2") == std::string::npos) {
+            EXPECT_EQ(remainder.find("&+Ix"), std::string::npos) << answer;
+        }
+        EXPECT_EQ(remainder.find("^"), std::string::npos) << answer;
     });
 }
 

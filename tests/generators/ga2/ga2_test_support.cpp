@@ -265,3 +265,16 @@ General2 ReadSquaredForm(const std::string& equation) {
     g.F -= ReadExact(equation.substr(eq + 5));
     return g;
 }
+
+double ReadDegrees(const std::string& text) {
+    const auto deg = text.find("\u00B0");
+    const double d = std::stod(text.substr(0, deg));
+    const auto min = text.find("' ");
+    if (min == std::string::npos) return d;
+    const double m = std::stod(text.substr(deg + 3, min - deg - 3));
+    std::string seconds = text.substr(min + 2);
+    seconds = seconds.substr(0, seconds.find('"'));
+    const auto mark = seconds.find("&.");
+    if (mark != std::string::npos) seconds.replace(mark, 2, ".");
+    return d + m / 60 + std::stod(seconds) / 3600;
+}

@@ -34,3 +34,6 @@ General2 ReadLine(const std::string& text, const std::string& parameter = "", do
 // An ellipse or hyperbola in a reduced or cleared form: sums of squared shifts, each with
 // a factor or over a denominator, equal to a number; expanded into a General2.
 General2 ReadSquaredForm(const std::string& equation);
+
+// An angle written "d° m' s.ss\"" (or "d°" alone for a whole angle) in degrees.
+double ReadDegrees(const std::string& text);

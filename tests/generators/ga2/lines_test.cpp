@@ -16,18 +16,6 @@ bool Perpendicular(const General2& a, const General2& b) { return std::fabs(a.D 
 double DistanceTo(const General2& line, double x, double y) {
     return std::fabs(line.At(x, y)) / std::hypot(line.D, line.E);
 }
-double ReadDegrees(const std::string& text) {
-    const auto deg = text.find("\u00B0");
-    const double d = std::stod(text.substr(0, deg));
-    const auto min = text.find("' ");
-    if (min == std::string::npos) return d;
-    const double m = std::stod(text.substr(deg + 3, min - deg - 3));
-    std::string seconds = text.substr(min + 2);
-    seconds = seconds.substr(0, seconds.find('"'));
-    const auto mark = seconds.find("&.");
-    if (mark != std::string::npos) seconds.replace(mark, 2, ".");
-    return d + m / 60 + std::stod(seconds) / 3600;
-}
 double AcuteAngle(const General2& a, const General2& b) {
     const double c = std::fabs(a.D * b.D + a.E * b.E) / (std::hypot(a.D, a.E) * std::hypot(b.D, b.E));
     return std::acos(std::min(1.0, c)) * 180 / M_PI;

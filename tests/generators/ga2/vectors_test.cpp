@@ -11,20 +11,6 @@
 namespace {
 constexpr double kEps = 1e-9;
 
-double ReadDegrees(const std::string& text) {
-    // d° m' s.ss", or d° alone for a whole angle
-    const auto deg = text.find("\u00B0");
-    const double d = std::stod(text.substr(0, deg));
-    const auto min = text.find("' ");
-    if (min == std::string::npos) return d;
-    const double m = std::stod(text.substr(deg + 3, min - deg - 3));
-    std::string seconds = text.substr(min + 2);
-    seconds = seconds.substr(0, seconds.find('"'));
-    const auto mark = seconds.find("&.");
-    if (mark != std::string::npos) seconds.replace(mark, 2, ".");
-    return d + m / 60 + std::stod(seconds) / 3600;
-}
-
 double AngleOf(const Point2& u, const Point2& v) {
     const double cosine = (u.x * v.x + u.y * v.y) / (std::hypot(u.x, u.y) * std::hypot(v.x, v.y));
     return std::acos(std::clamp(cosine, -1.0, 1.0)) * 180 / M_PI;

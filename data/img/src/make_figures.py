@@ -7,6 +7,9 @@ files into the GIF files the program loads.
 """
 import math
 import os
+import re
+import subprocess
+import tempfile
 
 OUT = os.path.dirname(os.path.abspath(__file__))
 
@@ -18,11 +21,19 @@ STROKE = 0.32
 FONT = 3.1
 # A line of 12-point text is about 4.9 mm high.
 TOP_BAND = 5.5
+# Labels print at least 8 points (2.82 mm) high at the narrowest tag; a little more, to be safe.
+LABEL_MM = 2.95
+# Free paper kept around the ink, so that no stroke is cut at the canvas's edge.
+MARGIN = 0.4
+# Resolution of the rendering that finds the ink.
+PX_PER_MM = 12
 
 
 class Figure:
-    def __init__(self, name, width, height):
+    def __init__(self, name, width, height, smallest_tag=None):
         self.name, self.w, self.h = name, width, height
+        # The narrowest tag that shows this figure, in mm; its labels must stay readable there.
+        self.smallest = (smallest_tag if smallest_tag else width) / width
         self.items = []
 
     # Shapes -------------------------------------------------------------------
@@ -51,9 +62,8 @@ class Figure:
         self.items.append(f'<circle cx="{p[0]:.3f}" cy="{p[1]:.3f}" r="{r}" fill="{INK}"/>')
 
     def text(self, p, s, size=FONT, anchor="middle", italic=True, color=INK):
-        style = "italic" if italic else "normal"
-        self.items.append(f'<text x="{p[0]:.3f}" y="{p[1] + size * 0.35:.3f}" font-family="Liberation Serif"'
-                          f' font-size="{size}" font-style="{style}" text-anchor="{anchor}" fill="{color}">{s}</text>')
+        # Kept as a record: the label size is settled when the figure is fitted to its canvas.
+        self.items.append((p, s, size, anchor, italic, color))
 
     # Marks ---------------------------------------------------------------------
     def right_angle(self, corner, toward1, toward2, size=2.0):
@@ -93,18 +103,68 @@ class Figure:
     def _dash(dash):
         return ' stroke-dasharray="1.0,0.8"' if dash else ""
 
+    def _body(self, least_size):
+        out = []
+        for item in self.items:
+            if isinstance(item, str):
+                out.append(item)
+                continue
+            p, s, size, anchor, italic, color = item
+            size = max(size, least_size)
+            style = "italic" if italic else "normal"
+            out.append(f'<text x="{p[0]:.3f}" y="{p[1] + size * 0.35:.3f}" font-family="Liberation Serif"'
+                       f' font-size="{size:.3f}" font-style="{style}" text-anchor="{anchor}" fill="{color}">{s}</text>')
+        return "\n    ".join(out)
+
     def save(self, top_band=TOP_BAND):
-        # A figure hangs from the top of the line above the one that holds it, so the
-        # drawing keeps that line's height free at its top, scaled down to fit below it.
-        s = (self.h - top_band) / self.h
-        dx = self.w * (1 - s) / 2
-        body = "\n    ".join(self.items)
+        if top_band == 0:
+            self._write(self._body(0), 0, 0, 1)
+            return
+        # A figure hangs from the top of the line above the one that holds it: the height of
+        # that line (at the narrowest tag) stays free at the top. Below it the drawing's ink
+        # fills the canvas, so that it prints at the size its tag gives, and every label is
+        # at least LABEL_MM high at the narrowest tag.
+        band = top_band / self.smallest
+        room_w, room_h = self.w - 2 * MARGIN, self.h - band - MARGIN
+        scale = 1.0
+        for _ in range(8):
+            least = LABEL_MM / (scale * self.smallest)
+            body = self._body(least)
+            x0, y0, x1, y1 = ink_box(body, self.w, self.h)
+            fitted = min(room_w / (x1 - x0), room_h / (y1 - y0))
+            if fitted >= scale * 0.999:
+                break
+            scale = fitted
+        scale = fitted if fitted >= scale else scale
+        dx = (self.w - (x1 - x0) * scale) / 2 - x0 * scale
+        dy = band + (room_h - (y1 - y0) * scale) / 2 - y0 * scale
+        self._write(body, dx, dy, scale)
+
+    def _write(self, body, dx, dy, scale):
         svg = (f'<?xml version="1.0" encoding="UTF-8"?>\n'
                f'<svg xmlns="http://www.w3.org/2000/svg" width="{self.w}mm" height="{self.h}mm"'
                f' viewBox="0 0 {self.w} {self.h}">\n  <rect width="100%" height="100%" fill="white"/>\n'
-               f'  <g transform="translate({dx:.3f},{top_band}) scale({s:.5f})">\n    {body}\n  </g>\n</svg>\n')
+               f'  <g transform="translate({dx:.3f},{dy:.3f}) scale({scale:.5f})">\n    {body}\n  </g>\n</svg>\n')
         with open(os.path.join(OUT, self.name + ".svg"), "w") as f:
             f.write(svg)
+
+
+def ink_box(body, w, h):
+    """The box (x0, y0, x1, y1) in drawing millimetres that the drawing's ink covers, found by
+    rendering it: labels and strokes included, whatever their font."""
+    pad = max(w, h)
+    svg = (f'<svg xmlns="http://www.w3.org/2000/svg" width="{w + 2 * pad}mm" height="{h + 2 * pad}mm"'
+           f' viewBox="{-pad} {-pad} {w + 2 * pad} {h + 2 * pad}">\n  {body}\n</svg>\n')
+    with tempfile.TemporaryDirectory() as tmp:
+        src, png = os.path.join(tmp, "f.svg"), os.path.join(tmp, "f.png")
+        with open(src, "w") as f:
+            f.write(svg)
+        subprocess.run(["rsvg-convert", "--dpi-x", str(PX_PER_MM * 25.4), "--dpi-y", str(PX_PER_MM * 25.4),
+                        src, "-o", png], check=True)
+        geometry = subprocess.run(["convert", png, "-format", "%@", "info:"], check=True, capture_output=True,
+                                  text=True).stdout.strip()
+    bw, bh, bx, by = (int(v) for v in re.match(r"(\d+)x(\d+)\+(\d+)\+(\d+)", geometry).groups())
+    return (bx / PX_PER_MM - pad, by / PX_PER_MM - pad, (bx + bw) / PX_PER_MM - pad, (by + bh) / PX_PER_MM - pad)
 
 
 def _unit(a, b):
@@ -143,18 +203,18 @@ def right_triangle():
 
 
 def rectangle():
-    f = Figure("m_rectangu", 35, 26)
+    f = Figure("m_rectangu", 35, 26, smallest_tag=28)
     P = [(4, 4), (31, 4), (31, 21.5), (4, 21.5)]
     f.polygon(P)
     f.line(P[3], P[1], dash=True)
     f.side_label(P[2], P[3], "b", 2.2)
     f.side_label(P[3], P[0], "h", 1.8)
-    f.text((19.5, 11.2), "d")
+    f.text((16.0, 10.0), "d")
     f.save()
 
 
 def isosceles_triangle():
-    f = Figure("m_tri_isos", 28, 26.81)
+    f = Figure("m_tri_isos", 28, 26.81, smallest_tag=22)
     A, B, C = (3.5, 21.5), (24.5, 21.5), (14, 3.0)
     f.polygon([A, B, C])
     M = (14, 21.5)
@@ -214,7 +274,7 @@ def square():
     f.polygon(P)
     f.line(P[3], P[1], dash=True)
     f.side_label(P[2], P[3], "l", 2.0)
-    f.text((11.5, 9.3), "d")
+    f.text((9.0, 8.2), "d")
     f.save()
 
 
@@ -224,9 +284,9 @@ def rhombus():
     f.polygon([T, R, B, L])
     f.line(T, B, dash=True)
     f.line(L, R, dash=True)
-    f.text((8.1, 6.8), "D", size=2.6)
-    f.text((4.3, 9.8), "d", size=2.6)
-    f.side_label(B, R, "l", 1.6)
+    f.text((8.9, 7.4), "D")
+    f.text((4.0, 8.9), "d")
+    f.side_label(R, B, "l", 1.9)
     f.save()
 
 
@@ -286,7 +346,7 @@ def trapezoid():
     f.side_label(P[0], P[1], "b", 1.8)
     f.side_label(P[2], P[3], "B", 2.2)
     f.text((8.8, 11.5), "h")
-    f.side_label(P[3], P[0], "l", 1.8)
+    f.side_label(P[3], P[0], "l", 2.3)
     f.save()
 
 
@@ -367,7 +427,7 @@ def circular_trapezoid():
 
 
 def annulus():
-    f = Figure("m_corona", 22.04, 21.982)
+    f = Figure("m_corona", 22.04, 21.982, smallest_tag=20.9)
     c = (11.02, 10.99)
     f.circle(c, 9.2, fill=FILL)
     f.circle(c, 4.6, fill="white")
@@ -376,8 +436,8 @@ def annulus():
     f.line(c, (c[0] + 9.2 * math.cos(a), c[1] + 9.2 * math.sin(a)))
     b = 2.3
     f.line(c, (c[0] + 4.6 * math.cos(b), c[1] + 4.6 * math.sin(b)))
-    f.text((c[0] + 6.8 * math.cos(a) - 0.6, c[1] + 6.8 * math.sin(a) - 1.5), "R")
-    f.text((c[0] + 2.3 * math.cos(b) - 1.4, c[1] + 2.3 * math.sin(b) - 1.0), "r")
+    f.text((c[0] + 7.0 * math.cos(a) - 1.2, c[1] + 7.0 * math.sin(a) - 1.9), "R")
+    f.text((c[0] + 2.3 * math.cos(b) - 1.9, c[1] + 2.3 * math.sin(b) - 1.4), "r")
     f.save()
 
 
@@ -404,7 +464,7 @@ def cube():
     f = Figure("m_cubo", 20.898, 21.006)
     f0, back = box(f, (2.5, 16.8), 12.0, 12.0, 12.0)
     f.side_label(f0[1], f0[0], "a", 2.0)
-    f.text((9.0, 9.0), "D", color=ACCENT)
+    f.text((9.0, 7.6), "D", color=ACCENT)
     f.save()
 
 
@@ -414,7 +474,7 @@ def cuboid():
     f.side_label(f0[1], f0[0], "a", 2.0)
     f.side_label(f0[1], back[1], "b", -1.6)
     f.side_label(f0[0], f0[3], "c", 1.6)
-    f.text((6.4, 8.4), "D", color=ACCENT)
+    f.text((6.8, 7.0), "D", color=ACCENT)
     f.save()
 
 
@@ -422,7 +482,8 @@ def pyramid():
     f = Figure("m_piramide", 20.304, 21.006)
     a = 12.6
     ox, oy = 2.2, 17.2
-    dx, dy = a * 0.5 * math.cos(math.radians(40)), -a * 0.5 * math.sin(math.radians(40))
+    # A shallow depth keeps the slant height g and the altitude h apart, with room for both labels.
+    dx, dy = a * 0.25 * math.cos(math.radians(40)), -a * 0.25 * math.sin(math.radians(40))
     base = [(ox, oy), (ox + a, oy), (ox + a + dx, oy + dy), (ox + dx, oy + dy)]
     centre = (ox + a / 2 + dx / 2, oy + dy / 2)
     apex = (centre[0], 2.0)
@@ -430,19 +491,18 @@ def pyramid():
     f.polygon([base[1], base[2], apex], fill=FILL2)
     f.line(base[0], base[3], dash=True, width=0.22)
     f.line(base[3], base[2], dash=True, width=0.22)
-    f.line(base[3], apex, dash=True, width=0.22)
     f.line(apex, centre, dash=True, color=ACCENT, width=0.26)
     mid = ((base[0][0] + base[1][0]) / 2, oy)
-    f.line(apex, mid, dash=True, width=0.22)
+    f.line(apex, mid, width=0.22)
     f.side_label(base[1], base[0], "a", 2.0)
-    f.text((centre[0] + 1.4, (apex[1] + centre[1]) / 2 + 1.5), "h", color=ACCENT)
-    f.text(((apex[0] + mid[0]) / 2 - 2.2, (apex[1] + mid[1]) / 2 + 1.0), "g", size=2.8)
+    f.text((centre[0] + 1.6, 11.0), "h", color=ACCENT)
+    f.text((mid[0] - 1.9, 11.0), "g")
     f.save()
 
 
 def cylinder():
     f = Figure("m_cilindro", 17.766, 20.952)
-    cx, top, bottom, rx, ry = 8.9, 4.2, 16.8, 6.8, 2.2
+    cx, top, bottom, rx, ry = 8.9, 4.6, 16.4, 6.8, 3.2
     f.path(f"M{cx - rx},{top} L{cx - rx},{bottom} A{rx},{ry} 0 0 0 {cx + rx},{bottom} L{cx + rx},{top} Z",
            fill=FILL)
     f.path(f"M{cx - rx},{bottom} A{rx},{ry} 0 0 1 {cx + rx},{bottom}", dash=True, width=0.22)
@@ -450,20 +510,20 @@ def cylinder():
     f.dot((cx, bottom), 0.3)
     f.line((cx, bottom), (cx + rx, bottom), width=0.26)
     f.line((cx, top), (cx, bottom), dash=True, color=ACCENT, width=0.26)
-    f.text((cx + rx / 2, bottom - 1.3), "r", size=2.8)
+    f.text((cx + rx * 0.45, bottom - 1.55), "r")
     f.text((cx - 1.3, (top + bottom) / 2), "h", color=ACCENT)
     f.save()
 
 
 def cone():
     f = Figure("m_cono", 19.215, 20.916)
-    cx, apex_y, bottom, rx, ry = 9.6, 2.0, 17.0, 7.2, 2.3
+    cx, apex_y, bottom, rx, ry = 9.6, 2.0, 16.6, 7.2, 3.2
     f.path(f"M{cx},{apex_y} L{cx - rx},{bottom} A{rx},{ry} 0 0 0 {cx + rx},{bottom} Z", fill=FILL)
     f.path(f"M{cx - rx},{bottom} A{rx},{ry} 0 0 1 {cx + rx},{bottom}", dash=True, width=0.22)
     f.line((cx, apex_y), (cx, bottom), dash=True, color=ACCENT, width=0.26)
     f.line((cx, bottom), (cx + rx, bottom), width=0.26)
     f.dot((cx, bottom), 0.3)
-    f.text((cx + rx / 2, bottom + 1.4), "r", size=2.8)
+    f.text((cx + rx * 0.45, bottom - 1.55), "r")
     f.text((cx - 1.3, (apex_y + bottom) / 2 + 1), "h", color=ACCENT)
     f.text((cx + rx / 2 + 1.8, (apex_y + bottom) / 2 - 0.5), "g")
     f.save()
@@ -504,15 +564,19 @@ def angles_on_a_line():
 
 
 def right_angle_in_parts():
+    """A right angle cut by two rays into the angles A, B and C, A on the horizontal side."""
     f = Figure("m_ang_abc90", 23, 21.275)
     c = (3.5, 18.5)
     f.line(c, (21, c[1]))
     f.line(c, (c[0], 2))
-    r = ray(c, 38, 17)
-    f.line(c, r)
+    r1, r2 = ray(c, 28, 17), ray(c, 60, 17)
+    f.line(c, r1)
+    f.line(c, r2)
+    f.dot(c, 0.45)
     f.right_angle(c, (21, c[1]), (c[0], 2), 1.6)
-    f.angle(c, (21, c[1]), r, 6.5, "A", 9.0)
-    f.angle(c, r, (c[0], 2), 6.5, "B", 9.0)
+    f.angle(c, (21, c[1]), r1, 6.5, "A", 9.2)
+    f.angle(c, r1, r2, 5.5, "B", 8.2)
+    f.angle(c, r2, (c[0], 2), 6.5, "C", 9.2)
     f.save()
 
 

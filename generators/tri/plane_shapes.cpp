@@ -38,16 +38,16 @@ constexpr const char* kTrapezoid = "#IMG('m_trigo_trape.gif'DXmm=42:DYmm=-22.019
 //   5  triangle ABC with the height AD onto BC: area, BC (even), angle B given;
 //      AD = 2·area / BC, AB = AD / sin B, C from BD = AD / tan B and DC = BC − BD
 //      (D inside BC)
-//   6  rhomboid ABCD on the base AD: AD (even), area, angle A given; height area / AD,
-//      AB = height / sin A, diagonal BD² = AB² + AD² − 2·AB·AD·cos A
+//   6  rhomboid ABCD on the base AB: AB (even), area, angle A given; height area / AB,
+//      AD = height / sin A, diagonal BD² = AB² + AD² − 2·AB·AD·cos A
 //   7  rhombus ABCD: the diagonals AC and BD given; side √((AC/2)² + (BD/2)²),
 //      angle A = 2·atan(BD / AC), area AC·BD / 2
 //   8  right trapezoid ABCD: area, AB, DC given; height 2·area / (AB + DC),
 //      angle A = atan(height / (AB − DC)), AD = √(height² + (AB − DC)²)
 //   9  right triangles ABC and ABD: AB, angle D, angle ACB given; BC = AB / tan C,
 //      BD = AB / tan D, CD = BD − BC
-//   10 rhombus ABCD: the minor diagonal AC (even) and the side given; BD =
-//      2·√(side² − (AC/2)²), angle A = 2·atan(BD / AC), area AC·BD / 2
+//   10 rhombus ABCD: the minor diagonal BD (even) and the side given; AC =
+//      2·√(side² − (BD/2)²), angle A = 2·atan(BD / AC), area AC·BD / 2
 ShapeRecord MakeShape(GeneratorWorkspace& ws, int type) {
     ShapeRecord rec;
     rec.type = type;
@@ -127,12 +127,12 @@ ShapeRecord MakeShape(GeneratorWorkspace& ws, int type) {
             break;
         }
         case 6: {
-            const double ad = u * Even(RandomInRange(ws, 5, 18, 1, 1));
+            const double ab = u * Even(RandomInRange(ws, 5, 18, 1, 1));
             const double h = u * RandomInRange(ws, 2, 7, 1, 1);
             const double A = RandomInRange(ws, 30, 75, 1, 1);
-            const double ab = h / Sin(A);
-            rec.given = {ad, ad * h, A};
-            rec.answers = {h, ab, std::sqrt(ab * ab + ad * ad - 2 * ab * ad * Cos(A))};
+            const double ad = h / Sin(A);
+            rec.given = {ab, ab * h, A};
+            rec.answers = {h, ad, std::sqrt(ab * ab + ad * ad - 2 * ab * ad * Cos(A))};
             rec.units = {kCm, kCm, kCm};
             return rec;
         }
@@ -159,12 +159,12 @@ ShapeRecord MakeShape(GeneratorWorkspace& ws, int type) {
         }
         default: {
             const double side = u * RandomInRange(ws, 6, 18, 1, 1);
-            const double ac = u * Even(2 * RandomInRange(ws, 3, 7, 1, 1));
-            // The minor diagonal is shorter than the major one: AC < side·√2.
-            if (ac * ac < 2 * side * side) {
-                const double bd = 2 * std::sqrt(side * side - ac * ac / 4);
-                rec.given = {ac, side};
-                rec.answers = {bd, 2 * Atan2(bd, ac), ac * bd / 2};
+            const double bd = u * Even(2 * RandomInRange(ws, 3, 7, 1, 1));
+            // The minor diagonal is shorter than the major one: BD < side·√2.
+            if (bd * bd < 2 * side * side) {
+                const double ac = 2 * std::sqrt(side * side - bd * bd / 4);
+                rec.given = {bd, side};
+                rec.answers = {ac, 2 * Atan2(bd, ac), ac * bd / 2};
                 rec.units = {kCm, kDegrees, kSquareCm};
                 return rec;
             }
@@ -236,9 +236,11 @@ void SolvingPlaneShapes(GeneratorWorkspace& ws) {
         break;
     case 6:
         figure = kRhomboid;
-        opening = "The rhomboid  &+IABCD&-I  shown below has side &+IAD&-I& =& " + Num(g[0]) + "& cm, an area of " +
+        // The figure draws the height from D onto the base AB, so the base given is AB (the
+        // letters of AB and AD swapped; the numbers are the same).
+        opening = "The rhomboid  &+IABCD&-I  shown below has side &+IAB&-I& =& " + Num(g[0]) + "& cm, an area of " +
                   Num(g[1]) + "& cm^2 and the angle &+IA&-I& =& " + Num(g[2]) + "\u00B0.";
-        parts = {"Find the height onto the side &+IAD&-I.", "Find the side &+IAB&-I.", "Find the diagonal &+IBD&-I."};
+        parts = {"Find the height onto the side &+IAB&-I.", "Find the side &+IAD&-I.", "Find the diagonal &+IBD&-I."};
         break;
     case 7:
         figure = kRhombus;
@@ -262,9 +264,11 @@ void SolvingPlaneShapes(GeneratorWorkspace& ws) {
         break;
     default:
         figure = kRhombus;
-        opening = "The rhombus &+IABCD&-I shown below has a minor diagonal &+IAC&-I& =& " + Num(g[0]) +
+        // The figure draws AC as the longer diagonal, through the acute angles A and C, so the
+        // minor diagonal given is BD.
+        opening = "The rhombus &+IABCD&-I shown below has a minor diagonal &+IBD&-I& =& " + Num(g[0]) +
                   "& cm and a side of " + Num(g[1]) + "& cm.";
-        parts = {"Find the major diagonal &+IBD&-I.", "Find the angle &+IA&-I.", "Find the area."};
+        parts = {"Find the major diagonal &+IAC&-I.", "Find the angle &+IA&-I.", "Find the area."};
         break;
     }
     ws.Statement = opening + "&LF";

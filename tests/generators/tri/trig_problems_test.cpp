@@ -270,11 +270,11 @@ std::array<double, 3> Measure(const ShapeRecord& r) {
         EXPECT_NEAR(Area({A, B, C}), g[0], 1e-9);
         return {A.y, Dist(A, B), AngleAt(C, A, B)};
     }
-    case 6: {  // AD base, area, A
+    case 6: {  // AB base, area, A: the height from D onto AB, as in the figure
         const double h = g[1] / g[0];
-        const Point A{0, 0}, D{g[0], 0}, B = Polar(A, h / std::sin(g[2] * kDeg), g[2]), C{B.x + D.x, B.y};
-        EXPECT_NEAR(Area({A, D, C, B}), g[1], 1e-9);
-        return {B.y, Dist(A, B), Dist(B, D)};
+        const Point A{0, 0}, B{g[0], 0}, D = Polar(A, h / std::sin(g[2] * kDeg), g[2]), C{B.x + D.x, D.y};
+        EXPECT_NEAR(Area({A, B, C, D}), g[1], 1e-9);
+        return {D.y, Dist(A, D), Dist(B, D)};
     }
     case 7: {  // AC, BD
         const Point A{-g[0] / 2, 0}, C{g[0] / 2, 0}, B{0, -g[1] / 2}, D{0, g[1] / 2};
@@ -286,12 +286,12 @@ std::array<double, 3> Measure(const ShapeRecord& r) {
         EXPECT_NEAR(Area({A, B, C, D}), g[0], 1e-9);
         return {h, AngleAt(A, B, D), Dist(A, D)};
     }
-    default: {  // AC minor, side
+    default: {  // BD minor, side: AC is the longer diagonal, as in the figure
         const double half = std::sqrt(g[1] * g[1] - g[0] * g[0] / 4);
-        const Point A{-g[0] / 2, 0}, C{g[0] / 2, 0}, B{0, -half}, D{0, half};
+        const Point A{-half, 0}, C{half, 0}, B{0, -g[0] / 2}, D{0, g[0] / 2};
         EXPECT_NEAR(Dist(A, B), g[1], 1e-9);
         EXPECT_LT(g[0], 2 * half);
-        return {Dist(B, D), AngleAt(A, B, D), Area({A, B, C, D})};
+        return {Dist(A, C), AngleAt(A, B, D), Area({A, B, C, D})};
     }
     }
 }

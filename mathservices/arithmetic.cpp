@@ -175,7 +175,10 @@ std::string GroupDigits(const std::string& text) {
     }
     grouped = Trim(grouped);
     if (grouped.size() >= 5) {
-        if (grouped[1] == ' ') grouped.erase(1, 1);
+        // Only a four-digit whole part keeps its first digit unsplit ("1234"); a longer one
+        // is grouped in threes from the right all the way ("1 438 743", not "1438 743").
+        const bool fourDigits = grouped.size() == 5 || grouped[5] == '.';
+        if (grouped[1] == ' ' && fourDigits) grouped.erase(1, 1);
         if (grouped[grouped.size() - 2] == ' ') grouped.erase(grouped.size() - 2, 1);
     }
     grouped = sign + grouped + exponent;

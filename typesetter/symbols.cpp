@@ -12,6 +12,8 @@ struct SymbolEntry {
 
 // Ordered: the interpreter takes the first entry that matches. Entries 1..74 come from the
 // symbol font, 75..78 from the extra font. Entry 67 repeats "&vacio" and can never match.
+// "&real" names the set of real numbers wherever it is written, so it prints the
+// double-struck R of today's books, not the blackletter real-part sign.
 constexpr SymbolEntry kSymbols[kSymbolCount] = {
     {U"&alfa", 97, U'\u03B1'},    {U"&beta", 98, U'\u03B2'},     {U"&gamma", 103, U'\u03B3'},
     {U"&Gamma", 71, U'\u0393'},   {U"&delta", 100, U'\u03B4'},   {U"&Delta", 68, U'\u0394'},
@@ -29,7 +31,7 @@ constexpr SymbolEntry kSymbols[kSymbolCount] = {
     {U"&als", 172, U'\u2190'},    {U"&aus", 173, U'\u2191'},     {U"&ars", 174, U'\u2192'},
     {U"&ads", 175, U'\u2193'},    {U"&alrs", 171, U'\u2194'},    {U"&divi", 184, U'\u00F7'},
     {U"&!=", 185, U'\u2260'},     {U"&vacio", 198, U'\u2205'},   {U"&iorden", 187, U'\u2248'},
-    {U"&aprox", 64, U'\u2245'},   {U"&real", 194, U'\u211C'},    {U"&<=", 163, U'\u2264'},
+    {U"&aprox", 64, U'\u2245'},   {U"&real", 194, U'\u211D'},    {U"&<=", 163, U'\u2264'},
     {U"&>=", 179, U'\u2265'},     {U"&oo", 165, U'\u221E'},      {U"&Vacio", 198, U'\u2205'},
     {U"&theta", 113, U'\u03B8'},  {U"&Theta", 81, U'\u0398'},    {U"&perte", 206, U'\u2208'},
     {U"&nabla", 209, U'\u2207'},  {U"&perpen", 94, U'\u22A5'},   {U"&todo", 34, U'\u2200'},

@@ -17,8 +17,9 @@ void TrigonometricEquations(GeneratorWorkspace& ws) {
         return;
     }
     const int n = DrillItemCount(ws);
+    // The interval's bounds carry the degree sign, as the answers do (not the ordinal sign).
     ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& "
-                   "[0\u00BA& ,& 360\u00BA).&LF";
+                   "[0\u00B0& ,& 360\u00B0).&LF";
     std::vector<int> used;
     for (int i = 1; i <= n; ++i) {
         int k = 0;

@@ -19,6 +19,9 @@ std::array<std::string, 3> LetterAt(int column, const std::string& letter) {
     return texts;
 }
 
+// A distance with its unit: "1 unit", "3 units".
+std::string Units(double distance) { return PlainNumberText(distance) + (distance == 1 ? " unit" : " units"); }
+
 std::string MeetingPoint(const Vec3& p) {
     return PlainNumberText(p.x) + ",  " + PlainNumberText(p.y) + ",  " + PlainNumberText(p.z) + ")&LF";
 }
@@ -111,7 +114,7 @@ void AlignmentCoplanarityDistance(GeneratorWorkspace& ws) {
     case 2:
         ws.Statement = "Calculate the value of parameter  " + k + "  for which the distance between the point  " +
                        PointMarkup(ws, "P", p.A, texts) + "  and the plane &+I&pi&-I& :& & " + PlaneMarkup(p.plane) +
-                       "  is  " + PlainNumberText(p.distance) + " units.&LF";
+                       "  is  " + Units(p.distance) + ".&LF";
         ws.Solution = "&SP=10: " + k + "_1 = " + PlainNumberText(p.value1) + ",    " + k + "_2 = " +
                       PlainNumberText(p.value2) + "&LF";
         return;
@@ -119,7 +122,7 @@ void AlignmentCoplanarityDistance(GeneratorWorkspace& ws) {
         // Of the two points at that distance, the condition on the sign keeps one.
         ws.Statement = "Find the value of parameter  " + k + "  for which the distance between the point  " +
                        PointMarkup(ws, "P", p.A, texts) + "  and the plane &+I&pi&-I& :& & " + PlaneMarkup(p.plane) +
-                       "  is  " + PlainNumberText(p.distance) + " units, with  " + k + "& >& 0.&LF";
+                       "  is  " + Units(p.distance) + ", with  " + k + "& >& 0.&LF";
         break;
     }
     ws.Solution = "&SP=10: " + k + " = " + PlainNumberText(p.value1) + "&LF";

@@ -198,7 +198,7 @@ void SolveSystemWithoutParameter(GeneratorWorkspace& ws, int mode) {
         }
         return;
     }
-    ws.Statement = "Discuss the intersection of the following plane and line. Find de intersection point if possible.&LF"
+    ws.Statement = "Discuss the intersection of the following plane and line. Find the intersection point if possible.&LF"
                    "&SP=10:" + PlaneAndLineMarkup(s);
     switch (kind) {
     case SystemCase::Determinate:
@@ -243,7 +243,7 @@ void SolveSystemWithParameter(GeneratorWorkspace& ws, int mode) {
         return;
     }
     ws.Statement = "Discuss the intersection of the following plane and line according to the values of parameter  " +
-                   k + ".  Find de intersection point (if possible) when parameter is  " + stated + ".&LF&SP=10:" +
+                   k + ".  Find the intersection point (if possible) when parameter is  " + stated + ".&LF&SP=10:" +
                    PlaneAndLineMarkup(s);
     const std::string meeting = ".   They intersect at a point if  " + k + " &!= " + critical + ".&LF";
     ws.Solution = (kind == SystemCase::Incompatible ? "&SP=10:&-ILine parallel to the plane if " + k + " = "

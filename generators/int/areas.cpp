@@ -16,8 +16,10 @@ const std::string kX = "&+Ix&-I";
 std::string Num(double v) { return PlainNumberText(v); }
 
 // The rounded value that follows an exact area.
+// "&iorden" prints the sign "approximately equal" (≈); "&aprox" would print the
+// congruence sign (≅), which reads wrong here.
 std::string Approximately(MathWorkspace& ws, double value) {
-    return "  &aprox  " + NumberToMarkup(RoundAtPosition(ws, value, -3));
+    return "  &iorden  " + NumberToMarkup(RoundAtPosition(ws, value, -3));
 }
 
 std::string Closing() { return " u^2.&LF"; }

@@ -13,8 +13,9 @@ const std::string kX = "&+Ix&-I";
 
 std::string Num(double v) { return PlainNumberText(v); }
 
+// "lim" is a function name, so it stands upright, as log and sin do.
 std::string LimitFrom(double x0, const char* side, const std::string& value) {
-    return "#TST(&+Ilim&-I#TS)(#ST1(&+Ix&-I &ars " + Num(x0) + "^" + side + " #ST1)#TST)&+If&-I (&+Ix&-I) = " + value;
+    return "#TST(lim#TS)(#ST1(&+Ix&-I &ars " + Num(x0) + "^" + side + " #ST1)#TST)&+If&-I (&+Ix&-I) = " + value;
 }
 
 // One piece of a function with the value v at x0. The forms: 0 a line, 1 a parabola,
@@ -73,7 +74,8 @@ void ContinuityOfAFunction(GeneratorWorkspace& ws) {
         right = left + RandomInRange(ws, 1, 9, 1, 1) * (Coin(ws, 0.5f) ? -1 : 1);
         if (right == 0) right = left + 10;
     }
-    const std::string p = "     &SP=16:si  &+Ix&-I ";
+    // The English condition word is "if" (not the Spanish "si").
+    const std::string p = "     &SP=16:if  &+Ix&-I ";
     const std::string at = Num(x0);
     std::string rows, leftValue = Num(left), value;
     if (verdict == 2) {
@@ -142,7 +144,7 @@ void DerivabilityOfAFunction(GeneratorWorkspace& ws) {
         leadRight += 1;
         bound.Next();
     }
-    const std::string p = "&SP=17:si  &+Ix&-I ";
+    const std::string p = "&SP=17:if  &+Ix&-I ";
     const std::string at = Num(x0);
     const std::string rows =
         Row(1, SmoothPiece(leadLeft, form == 4, x0, left, slopeLeft), p + "< " + at) +

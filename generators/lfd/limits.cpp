@@ -21,9 +21,10 @@ std::string Lead(const GeneratorWorkspace& ws) {
     }
 }
 
-// The limit sign with x tending to the point, and the expression in brackets.
+// The limit sign with x tending to the point, and the expression in brackets. "lim" is a
+// function name and stands upright, as log and sin do.
 std::string LimitOf(const std::string& point, const std::string& body) {
-    return "#TST(&+Ilim&-I#TS)(#ST1(&+Ix&-I &ars " + point + " #ST1)#TST)#NES(()" + body + "#NES)";
+    return "#TST(lim#TS)(#ST1(&+Ix&-I &ars " + point + " #ST1)#TST)#NES(()" + body + "#NES)";
 }
 
 std::string Quotient(const std::string& numerator, const std::string& denominator) {
@@ -203,7 +204,7 @@ void LimitsInvolvingSubtractionOfRoots(GeneratorWorkspace& ws) {
         }
         break;
     }
-    ws.Statement = Lead(ws) + "#TST(&+Ilim&-I#TS)(#ST1(&+Ix&-I &ars &oo#ST1)#TST)#NES(()" + body + "#NES)&LF";
+    ws.Statement = Lead(ws) + "#TST(lim#TS)(#ST1(&+Ix&-I &ars &oo#ST1)#TST)#NES(()" + body + "#NES)&LF";
     ws.Solution = Answer(value);
 }
 
@@ -245,7 +246,7 @@ void LimitsOfPowersInvolvingE(GeneratorWorkspace& ws) {
         exponent = PolynomialToMarkup(0, 0, 0, d, e, kX);
         break;
     }
-    ws.Statement = Lead(ws) + "#TST(&+Ilim&-I#TS)(#ST1(&+Ix&-I &ars &oo #ST1)#TST)#POT(#NES(()" + base + "#NES)#PB)(" +
+    ws.Statement = Lead(ws) + "#TST(lim#TS)(#ST1(&+Ix&-I &ars &oo #ST1)#TST)#POT(#NES(()" + base + "#NES)#PB)(" +
                    exponent + "#POT)&LF";
     const double g = Gcd(ws, std::fabs(num), den);
     num /= g;

@@ -138,12 +138,13 @@ LcmGcmItem DrawLcmGcmNumbers(GeneratorWorkspace& ws, int count) {
     return item;
 }
 
-// Routine 21: lcm and gcm of two numbers, now and then of three, built from the primes
-// 2, 3, 5 and 7 so that they share factors.
+// Routine 21: LCM and GCD of two numbers, now and then of three, built from the primes
+// 2, 3, 5 and 7 so that they share factors. The texts say "greatest common divisor" and
+// "LCM and GCD", as English school books do (not "gcm").
 void LcmAndGcmOfNaturalNumbers(GeneratorWorkspace& ws) {
     if (ws.DescribeMode) {
-        Describe(ws, {"010", "Natural numbers", "020", "2", "026", "Lcm and gcm of natural numbers",
-                      "Least common multiple and greatest common measure of natural numbers (2 types)"});
+        Describe(ws, {"010", "Natural numbers", "020", "2", "026", "LCM and GCD of natural numbers",
+                      "Least common multiple and greatest common divisor of natural numbers (2 types)"});
         return;
     }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
@@ -163,8 +164,8 @@ void LcmAndGcmOfNaturalNumbers(GeneratorWorkspace& ws) {
             return ItemTexts{text, PlainNumberText(item.lcm) + ",  " + PlainNumberText(item.gcm)};
         });
     }
-    drill.WriteStatement({"Calculate the least common multiple and the greatest common measure (lcm and gcm) of the "
+    drill.WriteStatement({"Calculate the least common multiple and the greatest common divisor (LCM and GCD) of the "
                           "following numbers:&LF",
-                          "Find the least common multiple and the greatest common measure (lcm and gcm) of the "
+                          "Find the least common multiple and the greatest common divisor (LCM and GCD) of the "
                           "following numbers:&LF"});
 }

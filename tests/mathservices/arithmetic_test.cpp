@@ -174,7 +174,11 @@ TEST(ReduceTerms, SmallCoefficientsWithPositiveLead) {
 TEST(GroupDigits, TheRequiredLook) {
     EXPECT_EQ(GroupDigits("1000"), "1000");
     EXPECT_EQ(GroupDigits("10000"), "10_ 000");
-    EXPECT_EQ(GroupDigits("1000000"), "1000_ 000");
+    EXPECT_EQ(GroupDigits("1000000"), "1_ 000_ 000");
+    EXPECT_EQ(GroupDigits("1438743"), "1_ 438_ 743");
+    EXPECT_EQ(GroupDigits("-1438743"), "-1_ 438_ 743");
+    EXPECT_EQ(GroupDigits("1234.5"), "1234.5");
+    EXPECT_EQ(GroupDigits("1234567.25"), "1_ 234_ 567.25");
     EXPECT_EQ(GroupDigits("1234"), "1234");
     EXPECT_EQ(GroupDigits("12345"), "12_ 345");
     EXPECT_EQ(GroupDigits("123456"), "123_ 456");

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPageSize>
@@ -184,4 +185,24 @@ TEST(QtSurfaceTest, LayoutBreaksAtTheSamePlacesOnPictureAndPdf) {
     pdf.End();
     EXPECT_GT(heads[0].size(), 3u);
     EXPECT_EQ(heads[0], heads[1]);
+}
+
+TEST(QtSurfaceTest, EverySymbolHasAGlyphInTheFontsThatPrintIt) {
+    // No symbol may print as an empty box: one of the faces that stand for the symbol fonts
+    // must hold its glyph (the double-struck R of the real numbers among them).
+    EnsureGuiApplication();
+    TypesetterState st;
+    const QStringList families = QtSurface::FamiliesFor("Symbol");
+    for (int i = 1; i <= kSymbolCount; ++i) {
+        const QString glyph = QString::fromUtf8(st.SymbolGlyph[i].c_str());
+        ASSERT_FALSE(glyph.isEmpty()) << i;
+        bool found = false;
+        for (const QString& family : families) {
+            if (!QFontDatabase::hasFamily(family)) continue;
+            QFont font(family);
+            font.setStyleStrategy(QFont::NoFontMerging);  // this face alone, no fallback
+            if (QFontMetricsF(font).inFontUcs4(glyph.toUcs4().front())) found = true;
+        }
+        EXPECT_TRUE(found) << st.SymbolGlyph[i] << " (entry " << i << ")";
+    }
 }

@@ -14,7 +14,7 @@ TEST(SymbolTables, SeventyEightEntitiesInOrder) {
     EXPECT_EQ(st.SymbolName[67], U"&vacio"); // the second one, which never matches
     EXPECT_EQ(st.SymbolCode[67], 102);
     EXPECT_EQ(st.SymbolName[50], U"&real");
-    EXPECT_EQ(st.SymbolGlyph[50], "\u211C");
+    EXPECT_EQ(st.SymbolGlyph[50], "\u211D"); // double-struck R: the real numbers
     EXPECT_EQ(st.SymbolName[51], U"&<=");
     EXPECT_EQ(st.SymbolGlyph[51], "\u2264");
     EXPECT_EQ(st.SymbolName[53], U"&oo");

@@ -416,7 +416,7 @@ const Golden kGolden[] = {
      " =& log& 178&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B &+Ix =&-I 2&LF"},
     {"0141230456050101",
-     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0º& ,& 360º).&LF&"
+     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
      "SP=5:&+Ba)&-B  cos &+Ix&-I  +  1  -  sin^2 &+Ix&-I  =  cos^2 &+Ix&-I &SP=50:&+Bb)&-B  cos &+Ix&-I  -"
      "  cos^2 &+Ix&-I  =  sin^2 &+Ix&-I &LF&SP=5:&+Bc)&-B  2sin^2 &+Ix&-I  +  sin &+Ix&-I  =  0&SP=50:&+Bd"
      ")&-B  sin &+Ix&-I (2  -  sin &+Ix&-I ) =  cos^2 &+Ix&-I &LF&SP=5:&+Be)&-B  2sin 3&+Ix&-I  -  sin^2 &"
@@ -424,7 +424,7 @@ const Golden kGolden[] = {
      "&SP=10:&+Ba)&-B  90°,  270°&SP=50:&+Bb)&-B  0°&LF&SP=10:&+Bc)&-B  0°,  180°,  210°,  330°&SP=50:&+Bd"
      ")&-B  30°,  150°&LF&SP=10:&+Be)&-B  10°,  50°,  130°,  170°,  250°,  290°&LF"},
     {"0140007001120302",
-     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0º& ,& 360º).&LF&"
+     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
      "SP=5:&+Ba)&-B  2cos 3&+Ix&-I  +  #RAD(3#RAD)  =  0&SP=50:&+Bb)&-B  cos 3&+Ix&-I  -  cos^2 &+Ix&-I  ="
      "  sin^2 &+Ix&-I &LF&SP=5:&+Bc)&-B  sin 2&+Ix&-I  -  cos^2 &+Ix&-I  =  sin^2 &+Ix&-I &SP=50:&+Bd)&-B "
      " 2cos &+Ix&-I  +  1  =  0&LF&SP=5:&+Be)&-B  sin 3&+Ix&-I  +  cos^2 &+Ix&-I  =  - sin^2 &+Ix&-I &SP=5"
@@ -438,7 +438,7 @@ const Golden kGolden[] = {
      "15°,  75°,  195°,  255°&SP=50:&+Bj)&-B  45°,  75°,  165°,  195°,  285°,  315°&LF&SP=10:&+Bk)&-B  150"
      "°,  210°&SP=50:&+Bl)&-B  0°&LF"},
     {"0148998999011010",
-     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0º& ,& 360º).&LF&"
+     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
      "SP=5:&+Ba)&-B  2cos 2&+Ix&-I  +  cos^2 &+Ix&-I  =  - sin^2 &+Ix&-I &LF&LF",
      "&SP=10:&+Ba)&-B  60°,  120°,  240°,  300°&LF"},
 };

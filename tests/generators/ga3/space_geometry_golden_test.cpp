@@ -72,39 +72,39 @@ const Golden kGolden[] = {
      "with  &+Ik&-I& >& 0.&LF",
      "&SP=10: &+Ik&-I = 6&LF"},
     {"0051230042000101",
-     "Discuss the intersection of the following plane and line. Find de intersection point if possible.&LF"
+     "Discuss the intersection of the following plane and line. Find the intersection point if possible.&LF"
      "&SP=10: &+I&pi&-I :  -2&+Ix&-I& +& &+Iy&-I& -& 5&+Iz&-I& =& 30,           &+IL&-I& :  #NES({X#RWS(L#"
      "RW1(-4&+Ix&-I& +& 2&+Iy&-I& -& 3&+Iz&-I& =& 32#RW1)#RW2(2&+Iy&-I& -& 2&+Iz&-I& =& 12#RW2)#RWS)#NES)&"
      "LF",
      "&SP=10:&-IThey intersect at the point  &+IP&-I (-4,  2,  -4)&LF"},
     {"0054565555050302",
-     "Discuss the intersection of the following plane and line. Find de intersection point if possible.&LF"
+     "Discuss the intersection of the following plane and line. Find the intersection point if possible.&LF"
      "&SP=10: &+I&pi&-I :  -4&+Ix&-I& +& 4&+Iy&-I& -& 5&+Iz&-I& =& -28,           &+IL&-I& :  #NES({X#RWS("
      "L#RW1(5&+Iz&-I& =& 35#RW1)#RW2(-2&+Ix&-I& +& 2&+Iy&-I& =& 6#RW2)#RWS)#NES)&LF",
      "&SP=10:&-IThe line is parallel to the plane.&LF"},
     {"0058998999261010",
-     "Discuss the intersection of the following plane and line. Find de intersection point if possible.&LF"
+     "Discuss the intersection of the following plane and line. Find the intersection point if possible.&LF"
      "&SP=10: &+I&pi&-I :  7&+Ix&-I& -& 4&+Iy&-I& -& 11&+Iz&-I& =& -41,           &+IL&-I& :  #NES({X#RWS("
      "L#RW1(-5&+Ix&-I& +& 5&+Iz&-I& =& 45#RW1)#RW2(2&+Ix&-I& -& 4&+Iy&-I& -& 6&+Iz&-I& =& 2#RW2)#RWS)#NES)"
      "&LF",
      "&SP=10:&-IThe line is parallel to the plane.&LF"},
     {"0061230042000101",
      "Discuss the intersection of the following plane and line according to the values of parameter  &+Ik&"
-     "-I.  Find de intersection point (if possible) when parameter is  2.&LF&SP=10: &+I&pi&-I :  -7&+Ix&-I"
+     "-I.  Find the intersection point (if possible) when parameter is  2.&LF&SP=10: &+I&pi&-I :  -7&+Ix&-I"
      "& +& &+Ik&-I&+Iy&-I& +& &+Iz&-I& =& 22,           &+IL&-I& :  #NES({X#RWS(L#RW1(-5&+Ix&-I& -& &+Iz&-"
      "I& =& 22#RW1)#RW2(&+Ix&-I& +& 2&+Iy&-I& -& &+Iz&-I& =& -24#RW2)#RWS)#NES)&LF",
      "&SP=10:&-ILine parallel to the plane if &+Ik&-I = -4.   They intersect at a point if  &+Ik&-I &!= -4"
      ".&LF&SP=10:When  &+Ik&-I = 2  they intersect at the point  &+IP&-I (-5,  -8,  3)&LF"},
     {"0064565555050302",
      "Discuss the intersection of the following plane and line according to the values of parameter  &+Ia&"
-     "-I.  Find de intersection point (if possible) when parameter is  3.&LF&SP=10: &+I&pi&-I :  -4&+Ix&-I"
+     "-I.  Find the intersection point (if possible) when parameter is  3.&LF&SP=10: &+I&pi&-I :  -4&+Ix&-I"
      "& +& &+Ia&-I&+Iy&-I& +& 2&+Iz&-I& =& -26,           &+IL&-I& :  #NES({X#RWS(L#RW1(-2&+Ix&-I& -& 4&+I"
      "y&-I& +& 3&+Iz&-I& =& -23#RW1)#RW2(-3&+Iy&-I& +& 4&+Iz&-I& =& -20#RW2)#RWS)#NES)&LF",
      "&SP=10:&-ILine lies in the plane if  &+Ia&-I = -5.   They intersect at a point if  &+Ia&-I &!= -5.&L"
      "F&SP=10:When  &+Ia&-I = 3  they intersect at the point  &+IP&-I (4,  0,  -5)&LF"},
     {"0068998999261010",
      "Discuss the intersection of the following plane and line according to the values of parameter  &+Ik&"
-     "-I.  Find de intersection point (if possible) when parameter is  5.&LF&SP=10: &+I&pi&-I :  &+Ik&-I&+"
+     "-I.  Find the intersection point (if possible) when parameter is  5.&LF&SP=10: &+I&pi&-I :  &+Ik&-I&+"
      "Ix&-I& +& 7&+Iy&-I& +& &+Iz&-I& =& 7,           &+IL&-I& :  #NES({X#RWS(L#RW1(-&+Ix&-I& +& 3&+Iy&-I&"
      " -& &+Iz&-I& =& 13#RW1)#RW2(3&+Ix&-I& -& 4&+Iy&-I& -& 2&+Iz&-I& =& 6#RW2)#RWS)#NES)&LF",
      "&SP=10:&-ILine lies in the plane if  &+Ik&-I = -4.   They intersect at a point if  &+Ik&-I &!= -4.&L"

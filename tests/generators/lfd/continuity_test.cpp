@@ -52,7 +52,7 @@ std::string LastLine(const std::string& solution) {
 }
 
 void CheckContinuity(const GeneratedProblem& p) {
-    const auto rows = ReadRows(p.statement, "     &SP=16:si  &+Ix&-I ");
+    const auto rows = ReadRows(p.statement, "     &SP=16:if  &+Ix&-I ");
     ASSERT_GE(rows.size(), 2u) << p.statement;
     const double x0 = rows[0].point;
     EXPECT_NE(p.statement.find("at the point &+Ix&-I = " + PlainNumberText(x0)), std::string::npos);
@@ -66,7 +66,7 @@ void CheckContinuity(const GeneratedProblem& p) {
 }
 
 void CheckDerivability(const GeneratedProblem& p) {
-    const auto rows = ReadRows(p.statement, "&SP=17:si  &+Ix&-I ");
+    const auto rows = ReadRows(p.statement, "&SP=17:if  &+Ix&-I ");
     ASSERT_EQ(rows.size(), 2u) << p.statement;
     const double x0 = rows[0].point, h = 1e-6;
     const double left = Value(rows, x0 - 1e-9), right = Value(rows, x0);

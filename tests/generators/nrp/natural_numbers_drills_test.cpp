@@ -141,10 +141,10 @@ TEST(NaturalNumberDrills, HeadLines) {
                                            "Calculate these expressions.&LF"};
     EXPECT_EQ(heads13, natural);
     EXPECT_EQ(heads1, natural);
-    EXPECT_EQ(heads21, (std::set<std::string>{"Calculate the least common multiple and the greatest common measure "
-                                              "(lcm and gcm) of the following numbers:&LF",
-                                              "Find the least common multiple and the greatest common measure (lcm "
-                                              "and gcm) of the following numbers:&LF"}));
+    EXPECT_EQ(heads21, (std::set<std::string>{"Calculate the least common multiple and the greatest common divisor "
+                                              "(LCM and GCD) of the following numbers:&LF",
+                                              "Find the least common multiple and the greatest common divisor (LCM "
+                                              "and GCD) of the following numbers:&LF"}));
 }
 
 TEST(NaturalNumberDrills, ThreeColumnsOfAnswers) {

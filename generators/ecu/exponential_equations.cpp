@@ -125,6 +125,8 @@ RootsItem LogarithmicItem(GeneratorWorkspace& ws) {
         }
         bound.Next();
     }
+    // The drill sets its items in italics; "log" is a function name and stands upright.
+    item.text = "&-I" + item.text;
     item.answer = "&+Ix =&-I " + PlainNumberText(item.solutions[0]);
     return item;
 }

@@ -26,13 +26,14 @@ void IntegralList::Write() {
     for (int i = 1; i <= n; ++i) {
         // Item numbers 1, 2, 0 modulo 3 take the first, second and third column.
         const int column = (i - 1) % 3;
-        statement += statementColumns_[column] + "&+B" + ItemLetter(i) + ")&-B " + statements_[i - 1];
+        // Item letters are upright: an integrand or an antiderivative may leave italic on.
+        statement += statementColumns_[column] + "&-I&+B" + ItemLetter(i) + ")&-B " + statements_[i - 1];
         if (column == 2 || i == n) statement += "&LF&LF";
     }
     std::string solution;
     for (int i = 1; i <= n; ++i) {
         const int column = (i - 1) % 2;
-        solution += kIntegralSolutionColumns[column] + "&+B" + ItemLetter(i) + ")&-B " + solutions_[i - 1];
+        solution += kIntegralSolutionColumns[column] + "&-I&+B" + ItemLetter(i) + ")&-B " + solutions_[i - 1];
         if (column == 1 || i == n) solution += "&LF";
     }
     ws_.Statement = statement;

@@ -61,7 +61,9 @@ void TrigonometricIdentities(GeneratorWorkspace& ws) {
         ws.Statement += std::string(i % 2 == 1 ? "&SP=1:" : "&SP=48:") + "&+B" + ItemLetter(i) + ")&-B " + text;
         if (i % 2 == 0 || i == n) ws.Statement += "&LF&LF";
     }
-    ws.Solution = "&SP=10: -";
+    // The line ends like every other solution's, so that a blank line parts this problem
+    // from the next one.
+    ws.Solution = "&SP=10: -&LF";
 }
 
 // Routine 4: equations whose solutions in [0°, 360°) come from the shared table.

@@ -44,7 +44,7 @@ const Golden kGolden[] = {
      "&-I = #COC(sin 5&+It&-I + sin &+It&-I #N)(sin 3&+It&-I - sin &+It&-I #COC)&LF&LF&SP=1:&+Be)&-B #COC("
      "cosec &+It&-I #N)(1 + cosec &+It&-I #COC) - #COC(cosec &+It&-I #N)(1 - cosec &+It&-I #COC) = 2sec^2^"
      " &+It&-I &LF&LF",
-     "&SP=10: -"},
+     "&SP=10: -&LF"},
     {"0030007001120302",
      "&-I&-BProve the following trigonometric identities.&LF&SP=1:&+Ba)&-B -tan &+I&alfa&-I = #COC(sin 3&+"
      "I&alfa&-I - sin 5&+I&alfa&-I #N)(cos 3&+I&alfa&-I + cos 5&+I&alfa&-I #COC)&SP=48:&+Bb)&-B #COC(cosec"
@@ -60,11 +60,11 @@ const Golden kGolden[] = {
      "&-I - tan &+Ix&-I #COC) = sec 2&+Ix&-I &LF&LF&SP=1:&+Bk)&-B #COC(cos^2^ &+I&alfa&-I #N)(1 - sin &+I&"
      "alfa&-I #COC) = 1 + sin &+I&alfa&-I &SP=48:&+Bl)&-B tan &+It&-I = #COC(sin 2&+It&-I #N)(1 + cos 2&+I"
      "t&-I #COC)&LF&LF",
-     "&SP=10: -"},
+     "&SP=10: -&LF"},
     {"0038998999011010",
      "&-I&-BGive a proof of the following trigonometric identities.&LF&SP=1:&+Ba)&-B #COC(cos &+It&-I - co"
      "s 3&+It&-I #N)(sin 3&+It&-I - sin &+It&-I #COC) = tan 2&+It&-I &LF&LF",
-     "&SP=10: -"},
+     "&SP=10: -&LF"},
     {"0041230456050101",
      "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
      "SP=5:&+Ba)&-B cos &+Ix&-I  +  1  -  sin^2^ &+Ix&-I  =  cos^2^ &+Ix&-I &SP=50:&+Bb)&-B cos &+Ix&-I  -"

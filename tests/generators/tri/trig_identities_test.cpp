@@ -52,7 +52,7 @@ TEST(TrigIdentities, DrillShowsDistinctIdentitiesThatHold) {
         for (std::size_t i = 0; i < items.size(); ++i) {
             for (std::size_t j = 0; j < i; ++j) EXPECT_NE(items[i], items[j]) << p.code;
         }
-        EXPECT_EQ(p.solution, "&SP=10: -");
+        EXPECT_EQ(p.solution, "&SP=10: -&LF");
         const std::string head = p.statement.substr(0, p.statement.find("&LF") + 3);
         EXPECT_TRUE(head == "&-I&-BGive a proof of the following trigonometric identities.&LF" ||
                     head == "&-I&-BProve the following trigonometric identities.&LF")

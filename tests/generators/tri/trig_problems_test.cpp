@@ -332,3 +332,36 @@ TEST(TrigPlaneShapes, TextsShowTheFigureAndThreeParts) {
         EXPECT_NE(p.solution.find(";    c) "), std::string::npos);
     });
 }
+
+TEST(TrigPlaneShapes, QuestionsAskForWhatTheFigureDraws) {
+    // The segments each figure draws, and the height it draws (from a vertex onto a side).
+    struct Drawn {
+        std::set<std::string> segments;
+        std::string heightOnto;  // the side the height falls on, or empty
+    };
+    const std::map<std::string, Drawn> drawn = {
+        {"m_trigo_tria_hch.gif", {{"AB", "BC", "CA", "AD", "BD", "DC"}, "BC"}},
+        {"m_trigo_tria_hhc.gif", {{"AB", "BC", "CA", "AD", "BD", "CD"}, ""}},
+        {"m_trigo_romde.gif", {{"AB", "BC", "CD", "DA", "BD"}, "AB"}},
+        {"m_trigo_rombo.gif", {{"AB", "BC", "CD", "DA", "AC", "BD"}, ""}},
+        {"m_trigo_trape.gif", {{"AB", "BC", "CD", "DA", "DC"}, "AB"}},
+    };
+    static const std::regex segment(R"(&\+I([A-D])([A-D])&-I)");
+    static const std::regex figure(R"(#IMG\('([^']+)')");
+    SweepRoutine(kTri, 6, 1100, [&](const GeneratedProblem& p) {
+        std::smatch m;
+        ASSERT_TRUE(std::regex_search(p.statement, m, figure)) << p.statement;
+        const Drawn& d = drawn.at(m[1]);
+        for (std::sregex_iterator it(p.statement.begin(), p.statement.end(), segment), end; it != end; ++it) {
+            const std::string ab = (*it)[1].str() + (*it)[2].str(), ba = (*it)[2].str() + (*it)[1].str();
+            EXPECT_TRUE(d.segments.count(ab) || d.segments.count(ba)) << ab << " is not drawn in " << m[1];
+        }
+        const auto onto = p.statement.find("height onto the side &+I");
+        if (onto != std::string::npos) EXPECT_EQ(p.statement.substr(onto + 24, 2), d.heightOnto) << p.statement;
+        // The rhombus figure draws AC as the longer diagonal.
+        if (p.statement.find("minor diagonal") != std::string::npos) {
+            EXPECT_NE(p.statement.find("minor diagonal &+IBD&-I"), std::string::npos) << p.statement;
+            EXPECT_NE(p.statement.find("major diagonal &+IAC&-I"), std::string::npos) << p.statement;
+        }
+    });
+}

@@ -10,12 +10,19 @@ std::string RoundedMarkup(MathWorkspace& ws, double x, int decimals) {
 }
 
 const TableLook kFrequencyTableLook{"28.2", "&+Ix&-I_i", "&+I&FA&-I_i", "&SP=11:", "&SP=20:"};
-const TableLook kClassTableLook{"32.6", "Interval", "&+I&FA&-I_i", "&SP=11:", "&SP=23:"};
+// The band is as wide as the spaced heads "     Interval             f_i    " in the text face
+// (38.8 mm at 12 points): narrower, the underline and the heads written in the band's
+// colour would stand out past its end.
+const TableLook kClassTableLook{"38.8", "Interval", "&+I&FA&-I_i", "&SP=11:", "&SP=23:"};
 const TableLook kPairTableLook{"28.2", "&+Ix&-I_i", "&+Iy&-I_i", "&SP=11:", "&SP=20:"};
 
 std::string TableMarkup(const TableLook& look, const std::vector<TableRow>& rows) {
     const std::string heads = "     " + look.firstHead + "             " + look.secondHead + "    ";
-    std::string text = "&SP=10:&BC=230;230;250:&FF=REC," + look.bandWidth + ",5.5:#UDL(" + heads + "#UDL)&LF";
+    // The band's underline keeps the width of the spaced heads, written in the band's own
+    // colour; the heads themselves then stand at the columns' tabs, over their columns
+    // (spaces alone put them wherever the font's widths lead, not over the columns).
+    std::string text = "&SP=10:&BC=230;230;250:&FF=REC," + look.bandWidth + ",5.5:#UDL(&FC=230;230;250:" + heads +
+                       "&FC=Negro:#UDL)" + look.firstColumn + look.firstHead + look.secondColumn + look.secondHead + "&LF";
     for (const TableRow& row : rows) {
         text += look.firstColumn + row.first + look.secondColumn + row.second + "&LF";
     }
@@ -41,8 +48,18 @@ std::string BarChartMarkup(const BarChart& chart) {
     for (int tick = static_cast<int>(top); tick >= 1; --tick) {
         text += "&SP=10:" + PlainNumberText(tick) + "&LF";
     }
+    // The bars stand at percentages of the text width, but a rule's length is in mm: an
+    // axis of 6.5 mm a bar stops short of the last bars on a wide page. So the axis is two
+    // rules: one from the origin, as long as the bars reach on the narrowest text width,
+    // and one that ends 3 mm behind the last bar and reaches back as far as the widest text
+    // width could leave a gap. Together they cover every bar, never pass the origin, for
+    // any text width between kNarrowestTextMm and kWidestTextMm.
+    constexpr double kNarrowestTextMm = 120, kWidestTextMm = 240;
+    const double reach = chart.barStep * count;  // percent from the origin to the last bar's edge
     text += "&SP=12:&BC=96;96;128:&FF=REC,0.2,-" + Millimetres(4 * top) + ":&FF=REC," +
-            Millimetres(6.5 * count) + ",0.2:";
+            Millimetres(reach * kNarrowestTextMm / 100) + ",0.2:";
+    text += "&SP=" + Millimetres(12 + reach) + ":&FF=REC,-" +
+            Millimetres(reach * (kWidestTextMm - kNarrowestTextMm) / 100) + ",0.2:&FF=REC,3,0.2:";
     static const char* const kColours[] = {"&BC=128;128;255:", "&BC=80;200;80:", "&BC=220;90;90:"};
     text += kColours[std::clamp(chart.colour, 1, 3) - 1];
     for (int i = 0; i < count; ++i) {

@@ -398,3 +398,75 @@ TEST(PesStatistics, FallingSeriesMedian) {
     }
     EXPECT_EQ(falling, 20);
 }
+
+namespace {
+// The filled rectangles of a chart line, each at the tab (percent of the text width) where
+// it is drawn: "&SP=p:" ... "&FF=REC,w,h:" in mm.
+struct Rect {
+    double tab, width, height;
+};
+std::vector<Rect> ChartRects(const std::string& line) {
+    std::vector<Rect> rects;
+    double tab = 0;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (line.compare(i, 4, "&SP=") == 0) tab = std::stod(line.substr(i + 4));
+        if (line.compare(i, 8, "&FF=REC,") == 0) {
+            const std::size_t comma = line.find(',', i + 8);
+            rects.push_back({tab, std::stod(line.substr(i + 8)), std::stod(line.substr(comma + 1))});
+        }
+    }
+    return rects;
+}
+
+// Every bar of a chart lies over its horizontal axis, whatever the text width.
+void ExpectAxisUnderEveryBar(const std::string& solution, const std::string& code) {
+    const auto from = solution.find("&SP=12:&BC=96;96;128:");
+    ASSERT_NE(from, std::string::npos) << code;
+    const std::vector<Rect> rects = ChartRects(solution.substr(from, solution.find("&LF", from) - from));
+    for (double textMm : {150.0, 177.5, 186.7, 210.0}) {
+        // The axis pieces are the rules 0.2 mm high; the bars hang upwards (negative height).
+        std::vector<std::pair<double, double>> axis, bars;
+        for (const Rect& r : rects) {
+            const double x = r.tab / 100 * textMm;
+            auto& into = r.height == 0.2 ? axis : bars;
+            if (r.height < 0 && r.width == 0.2) continue;  // the frequency axis
+            into.emplace_back(std::min(x, x + r.width), std::max(x, x + r.width));
+        }
+        ASSERT_FALSE(axis.empty()) << code;
+        std::sort(axis.begin(), axis.end());
+        double reach = axis.front().first;
+        EXPECT_NEAR(reach, 12.0 / 100 * textMm, 1e-9) << code << ": the axis starts at the origin";
+        for (const auto& [left, right] : axis) {
+            EXPECT_LE(left, reach + 1e-9) << code << ": a gap in the axis at " << textMm << " mm";
+            reach = std::max(reach, right);
+        }
+        for (const auto& [left, right] : bars) {
+            EXPECT_GE(left, axis.front().first - 1e-9) << code;
+            EXPECT_LE(right, reach + 1e-9) << code << ": a bar past the axis at " << textMm << " mm";
+        }
+    }
+}
+
+// The heads of a table stand at the tabs of its columns.
+void ExpectHeadsOverTheirColumns(const std::string& statement, const TableLook& look, const std::string& code) {
+    const auto header = statement.find("&SP=10:&BC=230;230;250:");
+    ASSERT_NE(header, std::string::npos) << code;
+    const std::string line = statement.substr(header, statement.find("&LF", header) - header);
+    EXPECT_NE(line.find(look.firstColumn + look.firstHead + look.secondColumn + look.secondHead), std::string::npos)
+        << code << ": " << line;
+}
+} // namespace
+
+TEST(PesStatistics, ChartsHaveAnAxisUnderEveryBarAndTablesTheirHeadsOverTheColumns) {
+    SweepRoutine("KVOL_MATH_PES", 1, 300, [](const GeneratedProblem& p) {
+        ExpectAxisUnderEveryBar(p.solution, p.code);
+        ExpectHeadsOverTheirColumns(p.statement, kFrequencyTableLook, p.code);
+    });
+    SweepRoutine("KVOL_MATH_PES", 2, 300, [](const GeneratedProblem& p) {
+        ExpectAxisUnderEveryBar(p.solution, p.code);
+        ExpectHeadsOverTheirColumns(p.statement, kClassTableLook, p.code);
+    });
+    SweepRoutine("KVOL_MATH_PES", 3, 100, [](const GeneratedProblem& p) {
+        ExpectHeadsOverTheirColumns(p.statement, kPairTableLook, p.code);
+    });
+}

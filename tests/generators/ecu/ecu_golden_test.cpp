@@ -391,29 +391,29 @@ const Golden kGolden[] = {
      "=& 0&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B &+Ix&-I = ± 9;    &+Ix&-I = ± 1&LF"},
     {"0131230456050101",
-     "Solve the following logarithmic equations:&LF&SP=5:&+Ba)&-B&+I log_7(2&+Ix&-I& -& 7)& =& 1&-I&SP=43:"
-     "&+Bb)&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 59)& =& log& 536&-I&LF&SP=5:&+Bc)&-B&+I log_5(3&+Ix&-I&"
-     " -& 10)& =& 1&-I&SP=43:&+Bd)&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 76)& =& log& 405&-I&LF&SP=5:&+Be"
-     ")&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 9)& =& log& 10&-I&LF&LF",
+     "Solve the following logarithmic equations:&LF&SP=5:&+Ba)&-B&+I &-Ilog_7(2&+Ix&-I& -& 7)& =& 1&-I&SP="
+     "43:&+Bb)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-I& +& 59)& =& log& 536&-I&LF&SP=5:&+Bc)&-B&+I &-Ilog_5("
+     "3&+Ix&-I& -& 10)& =& 1&-I&SP=43:&+Bd)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-I& +& 76)& =& log& 405&-I&"
+     "LF&SP=5:&+Be)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-I& +& 9)& =& log& 10&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B &+Ix =&-I 7&SP=50:&-I&+Bb)&-B &+Ix =&-I 8&LF&SP=10:&-I&+Bc)&-B &+Ix =&-I 5&SP=50:"
      "&-I&+Bd)&-B &+Ix =&-I 5&LF&SP=10:&-I&+Be)&-B &+Ix =&-I 1&LF"},
     {"0130007001120302",
-     "Solve these logarithmic equations:&LF&SP=5:&+Ba)&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 77)& =& log&"
-     " 588&-I&SP=43:&+Bb)&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 30)& =& log& 304&-I&LF&SP=5:&+Bc)&-B&+I 2"
-     "& log& &+Ix&-I& =& log(4&+Ix&-I& +& 32)&-I&SP=43:&+Bd)&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 78)& ="
-     "& log& 504&-I&LF&SP=5:&+Be)&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 37)& =& log& 120&-I&SP=43:&+Bf)&-"
-     "B&+I log_4(3&+Ix&-I& +& 7)& =& 2&-I&LF&SP=5:&+Bg)&-B&+I 2& log& &+Ix&-I& =& log(-2&+Ix&-I& +& 24)&-I"
-     "&SP=43:&+Bh)&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 7)& =& log& 144&-I&LF&SP=5:&+Bi)&-B&+I log_4(3&+"
-     "Ix&-I& -& 26)& =& 0&-I&SP=43:&+Bj)&-B&+I log_5(2&+Ix&-I& -& 1)& =& 1&-I&LF&SP=5:&+Bk)&-B&+I log& &+I"
-     "x&-I& +& log(&+Ix&-I& +& 71)& =& log& 462&-I&SP=43:&+Bl)&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 35)&"
-     " =& log& 200&-I&LF&LF",
+     "Solve these logarithmic equations:&LF&SP=5:&+Ba)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-I& +& 77)& =& l"
+     "og& 588&-I&SP=43:&+Bb)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-I& +& 30)& =& log& 304&-I&LF&SP=5:&+Bc)&-"
+     "B&+I &-I2& log& &+Ix&-I& =& log(4&+Ix&-I& +& 32)&-I&SP=43:&+Bd)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-"
+     "I& +& 78)& =& log& 504&-I&LF&SP=5:&+Be)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-I& +& 37)& =& log& 120&-"
+     "I&SP=43:&+Bf)&-B&+I &-Ilog_4(3&+Ix&-I& +& 7)& =& 2&-I&LF&SP=5:&+Bg)&-B&+I &-I2& log& &+Ix&-I& =& log"
+     "(-2&+Ix&-I& +& 24)&-I&SP=43:&+Bh)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-I& +& 7)& =& log& 144&-I&LF&SP"
+     "=5:&+Bi)&-B&+I &-Ilog_4(3&+Ix&-I& -& 26)& =& 0&-I&SP=43:&+Bj)&-B&+I &-Ilog_5(2&+Ix&-I& -& 1)& =& 1&-"
+     "I&LF&SP=5:&+Bk)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-I& +& 71)& =& log& 462&-I&SP=43:&+Bl)&-B&+I &-Il"
+     "og& &+Ix&-I& +& log(&+Ix&-I& +& 35)& =& log& 200&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B &+Ix =&-I 7&SP=50:&-I&+Bb)&-B &+Ix =&-I 8&LF&SP=10:&-I&+Bc)&-B &+Ix =&-I 8&SP=50:"
      "&-I&+Bd)&-B &+Ix =&-I 6&LF&SP=10:&-I&+Be)&-B &+Ix =&-I 3&SP=50:&-I&+Bf)&-B &+Ix =&-I 3&LF&SP=10:&-I&"
      "+Bg)&-B &+Ix =&-I 4&SP=50:&-I&+Bh)&-B &+Ix =&-I 9&LF&SP=10:&-I&+Bi)&-B &+Ix =&-I 9&SP=50:&-I&+Bj)&-B"
      " &+Ix =&-I 3&LF&SP=10:&-I&+Bk)&-B &+Ix =&-I 6&SP=50:&-I&+Bl)&-B &+Ix =&-I 5&LF"},
     {"0138998999011010",
-     "Solve the following logarithmic equations:&LF&SP=5:&+Ba)&-B&+I log& &+Ix&-I& +& log(&+Ix&-I& +& 87)&"
-     " =& log& 178&-I&LF&LF",
+     "Solve the following logarithmic equations:&LF&SP=5:&+Ba)&-B&+I &-Ilog& &+Ix&-I& +& log(&+Ix&-I& +& 8"
+     "7)& =& log& 178&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B &+Ix =&-I 2&LF"},
     {"0141230456050101",
      "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"

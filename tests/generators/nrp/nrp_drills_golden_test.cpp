@@ -211,21 +211,21 @@ const Golden kGolden[] = {
      "F&LF",
      "&SP=10:&-I&+Ba)&-B -72&LF"},
     {"0130170055040101",
-     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 7506 × 19&-I&SP=29:&+Bb)&-B&+I 897 × 90"
-     "16&-I&SP=53:&+Bc)&-B&+I 121 × 108&-I&SP=76:&+Bd)&-B&+I 321 × 48&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 142_ 614&SP=40:&-I&+Bb)&-B 8087_ 352&SP=70:&-I&+Bc)&-B 13_ 068&LF&SP=10:&-I&+"
-     "Bd)&-B 15_ 408&LF"},
+     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 7506 × 19&-I&SP=29:&+Bb)&-B&+I 897 × 9016&-"
+     "I&SP=53:&+Bc)&-B&+I 121 × 108&-I&SP=76:&+Bd)&-B&+I 321 × 48&-I&LF&LF",
+     "&SP=10:&-I&+Ba)&-B 142_ 614&SP=40:&-I&+Bb)&-B 8_ 087_ 352&SP=70:&-I&+Bc)&-B 13_ 068&LF&SP=10:&-I&+Bd"
+     ")&-B 15_ 408&LF"},
     {"0133454091090502",
-     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 8906 × 16_ 334&-I&SP=29:&+Bb)&-B&+I 238"
-     " × 241&-I&SP=53:&+Bc)&-B&+I 24_ 678 × 8880&-I&SP=76:&+Bd)&-B&+I 8821 × 959&-I&LF&SP=5:&+Be)&-B&+"
-     "I 2611 × 137&-I&SP=29:&+Bf)&-B&+I 7795 × 21&-I&SP=53:&+Bg)&-B&+I 10_ 436 × 17&-I&SP=76:&+Bh)&-B&"
-     "+I 1681 × 412&-I&LF&SP=5:&+Bi)&-B&+I 7934 × 137&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 145_ 470_ 604&SP=40:&-I&+Bb)&-B 57_ 358&SP=70:&-I&+Bc)&-B 219_ 140_ 640&LF&SP"
-     "=10:&-I&+Bd)&-B 8459_ 339&SP=40:&-I&+Be)&-B 357_ 707&SP=70:&-I&+Bf)&-B 163_ 695&LF&SP=10:&-I&+Bg"
-     ")&-B 177_ 412&SP=40:&-I&+Bh)&-B 692_ 572&SP=70:&-I&+Bi)&-B 1086_ 958&LF"},
+     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 8906 × 16_ 334&-I&SP=29:&+Bb)&-B&+I 238 × 2"
+     "41&-I&SP=53:&+Bc)&-B&+I 24_ 678 × 8880&-I&SP=76:&+Bd)&-B&+I 8821 × 959&-I&LF&SP=5:&+Be)&-B&+I 2611 ×"
+     " 137&-I&SP=29:&+Bf)&-B&+I 7795 × 21&-I&SP=53:&+Bg)&-B&+I 10_ 436 × 17&-I&SP=76:&+Bh)&-B&+I 1681 × 41"
+     "2&-I&LF&SP=5:&+Bi)&-B&+I 7934 × 137&-I&LF&LF",
+     "&SP=10:&-I&+Ba)&-B 145_ 470_ 604&SP=40:&-I&+Bb)&-B 57_ 358&SP=70:&-I&+Bc)&-B 219_ 140_ 640&LF&SP=10:"
+     "&-I&+Bd)&-B 8_ 459_ 339&SP=40:&-I&+Be)&-B 357_ 707&SP=70:&-I&+Bf)&-B 163_ 695&LF&SP=10:&-I&+Bg)&-B 1"
+     "77_ 412&SP=40:&-I&+Bh)&-B 692_ 572&SP=70:&-I&+Bi)&-B 1_ 086_ 958&LF"},
     {"0138998986011010",
      "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 8579 × 649&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 5567_ 771&LF"},
+     "&SP=10:&-I&+Ba)&-B 5_ 567_ 771&LF"},
     {"0140170056040101",
      "Calculate these expressions involving decimal numbers.&LF&SP=5:&+Ba)&-B&+I 808&.42 - 416&.8&-I&S"
      "P=29:&+Bb)&-B&+I 124&.3 + 93&.62&-I&SP=53:&+Bc)&-B&+I 39651&.4 - 8894&.37&-I&SP=76:&+Bd)&-B&+I 8"
@@ -262,23 +262,22 @@ const Golden kGolden[] = {
      "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 7239 × 23&.53&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B 170333&.67&LF"},
     {"0210170063040101",
-     "Calculate the least common multiple and the greatest common measure (lcm and gcm) of the followi"
-     "ng numbers:&LF&SP=5:&+Ba)&-B&+I 200,  504&-I&SP=29:&+Bb)&-B&+I 420,  945&-I&SP=53:&+Bc)&-B&+I 96"
-     ",  324&-I&SP=76:&+Bd)&-B&+I 300,  810&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 12600,  8&SP=30:&-I&+Bb)&-B 3780,  105&SP=50:&-I&+Bc)&-B 2592,  12&SP=70:&-I&"
-     "+Bd)&-B 8100,  30&LF"},
+     "Calculate the least common multiple and the greatest common divisor (LCM and GCD) of the following n"
+     "umbers:&LF&SP=5:&+Ba)&-B&+I 200,  504&-I&SP=29:&+Bb)&-B&+I 420,  945&-I&SP=53:&+Bc)&-B&+I 96,  324&-"
+     "I&SP=76:&+Bd)&-B&+I 300,  810&-I&LF&LF",
+     "&SP=10:&-I&+Ba)&-B 12600,  8&SP=30:&-I&+Bb)&-B 3780,  105&SP=50:&-I&+Bc)&-B 2592,  12&SP=70:&-I&+Bd)"
+     "&-B 8100,  30&LF"},
     {"0213454147090502",
-     "Calculate the least common multiple and the greatest common measure (lcm and gcm) of the followi"
-     "ng numbers:&LF&SP=5:&+Ba)&-B&+I 720,  420&-I&SP=29:&+Bb)&-B&+I 448,  900&-I&SP=53:&+Bc)&-B&+I 32"
-     "0,  900&-I&SP=76:&+Bd)&-B&+I 720,  540&-I&LF&SP=5:&+Be)&-B&+I 600,  630&-I&SP=29:&+Bf)&-B&+I 576"
-     ",  450&-I&SP=53:&+Bg)&-B&+I 672,  540&-I&SP=76:&+Bh)&-B&+I 420,  540&-I&LF&SP=5:&+Bi)&-B&+I 720,"
-     "  600&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 5040,  60&SP=30:&-I&+Bb)&-B 100800,  4&SP=50:&-I&+Bc)&-B 14400,  20&SP=70:&-I"
-     "&+Bd)&-B 2160,  180&LF&SP=10:&-I&+Be)&-B 12600,  30&SP=30:&-I&+Bf)&-B 14400,  18&SP=50:&-I&+Bg)&"
-     "-B 30240,  12&SP=70:&-I&+Bh)&-B 3780,  60&LF&SP=10:&-I&+Bi)&-B 3600,  120&LF"},
+     "Calculate the least common multiple and the greatest common divisor (LCM and GCD) of the following n"
+     "umbers:&LF&SP=5:&+Ba)&-B&+I 720,  420&-I&SP=29:&+Bb)&-B&+I 448,  900&-I&SP=53:&+Bc)&-B&+I 320,  900&"
+     "-I&SP=76:&+Bd)&-B&+I 720,  540&-I&LF&SP=5:&+Be)&-B&+I 600,  630&-I&SP=29:&+Bf)&-B&+I 576,  450&-I&SP"
+     "=53:&+Bg)&-B&+I 672,  540&-I&SP=76:&+Bh)&-B&+I 420,  540&-I&LF&SP=5:&+Bi)&-B&+I 720,  600&-I&LF&LF",
+     "&SP=10:&-I&+Ba)&-B 5040,  60&SP=30:&-I&+Bb)&-B 100800,  4&SP=50:&-I&+Bc)&-B 14400,  20&SP=70:&-I&+Bd"
+     ")&-B 2160,  180&LF&SP=10:&-I&+Be)&-B 12600,  30&SP=30:&-I&+Bf)&-B 14400,  18&SP=50:&-I&+Bg)&-B 30240"
+     ",  12&SP=70:&-I&+Bh)&-B 3780,  60&LF&SP=10:&-I&+Bi)&-B 3600,  120&LF"},
     {"0218998978011010",
-     "Find the least common multiple and the greatest common measure (lcm and gcm) of the following nu"
-     "mbers:&LF&SP=5:&+Ba)&-B&+I 630,  810&-I&LF&LF",
+     "Find the least common multiple and the greatest common divisor (LCM and GCD) of the following number"
+     "s:&LF&SP=5:&+Ba)&-B&+I 630,  810&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B 5670,  90&LF"},
     {"0220170064040101",
      "Convert the following values to fractions:&LF&SP=5:&+Ba)&-B&+I 2&.2&-I&SP=29:&+Bb)&-B&+I 9&.#ARC"

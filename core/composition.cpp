@@ -69,8 +69,15 @@ void ComposeDocument(ApplicationState& app, bool flag, int problem) {
         case 2:
         case 3:
             block->text = statementText + "&LF";
-            if (!solution.empty() && stored.size() < static_cast<std::size_t>(kMaxProblems))
-                stored.push_back(" &+B" + box + "&-B& " + solution);
+            if (!solution.empty() && stored.size() < static_cast<std::size_t>(kMaxProblems)) {
+                std::string text = " &+B" + box + "&-B& " + solution;
+                // The solutions run on as one paragraph, but one that sets a column ends its
+                // line: the next one's column marks would put it over this one.
+                const bool setsColumns = solution.find("&SP=") != std::string::npos;
+                if (setsColumns && (solution.size() < 3 || solution.compare(solution.size() - 3, 3, "&LF") != 0))
+                    text += "&LF";
+                stored.push_back(text);
+            }
             break;
         default:
             break;

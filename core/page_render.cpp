@@ -102,22 +102,24 @@ void PrintOnePage(ApplicationState& app, TypesetterState& typesetter, DrawingSur
     const double h = printer.TextHeight("HH");
     typesetter.PrinterSurface = &printer;
     typesetter.ZoomScale = 1.0;
-    const double m = 9.5 / 25.4 * 1440.0;
+    // The rule spans the text between the margins and stands under the title line, which
+    // begins at the top margin.
+    const double m = kPageMargin;
     const double pageWidth = printer.Width();
     const int code = app.Settings.PagePositionCode;
     double top = 0;
     double bottom = 0;
     if (code == 0 || (code & 8)) {
-        top = 3.3 * h;
-        bottom = 3.9 * h;
+        top = m + 1.05 * h;
+        bottom = m + 1.65 * h;
     } else {
         text = " &LF" + text;
-        top = 5.1 * h;
-        bottom = 5.5 * h;
+        top = m + 2.85 * h;
+        bottom = m + 3.25 * h;
     }
     if (!title.empty()) {
         // The grey rule under the title, with a white outline.
-        const double right = pageWidth - m - 2;
+        const double right = pageWidth - m;
         printer.SetFillStyle(0);
         printer.FilledBox(m, top, right - m, bottom - top, Grey(128));
         printer.Line(m, top, right, top, kWhite);

@@ -20,6 +20,36 @@ inline const ColumnMarks kSolutionColumns3 = {"&SP=10:", "&SP=40:", "&SP=70:"};
 inline const ColumnMarks kSolutionColumns2 = {"&SP=10:", "&SP=50:"};
 inline const ColumnMarks kSolutionColumns1 = {"&SP=10:"};
 
+// The width of a page's text, twips: A4 paper less two margins of 16 mm (the screen sheet's
+// is a little wider).
+inline constexpr double kItemTextWidth = (210.0 - 2 * 16.0) / 25.4 * 1440.0;
+// The least room between the end of an item and the start of the next column, twips.
+inline constexpr double kItemGap = 120;
+
+// The left position of a column mark "&SP=n:", as a percentage of the text width.
+double ColumnPercent(const std::string& mark);
+// True when each item (its whole markup, letter included), measured on the width model,
+// ends at least kItemGap before the next column of its row, or before the right margin in
+// the last column.
+bool ItemsFitColumns(const std::vector<std::string>& items, const ColumnMarks& marks);
+// The column set for these items: the preferred one when they fit it, otherwise the first
+// of the narrower sets with fewer columns in which they fit, otherwise the last of those
+// (one column: the line may then break, but it overprints nothing).
+const ColumnMarks& FitColumns(const std::vector<std::string>& items, const ColumnMarks& preferred,
+                              const std::vector<const ColumnMarks*>& narrower);
+// The items (their whole markup after the column mark) in rows of the column set: each
+// item behind its mark, rowEnd after the last item of a row and after the last of all.
+std::string ItemRows(const std::vector<std::string>& items, const ColumnMarks& marks, const std::string& rowEnd);
+// Appends items in two columns, the statement's at 5 % and 50 %, the solution's at 10 %
+// and 50 %, each row ended by "&LF"; items too wide for half the line get one column.
+void WriteTwoColumnItems(GeneratorWorkspace& ws, const std::vector<std::string>& statementItems,
+                         const std::vector<std::string>& solutionItems);
+// The standard statement and solution sets with four to one columns.
+inline const std::vector<const ColumnMarks*> kStatementColumnSets = {&kStatementColumns4, &kStatementColumns3,
+                                                                     &kStatementColumns2, &kStatementColumns1};
+inline const std::vector<const ColumnMarks*> kSolutionColumnSets = {&kSolutionColumns4, &kSolutionColumns3,
+                                                                    &kSolutionColumns2, &kSolutionColumns1};
+
 // How the items are written: what follows the bold letter of a statement item, what
 // closes the item, what ends a row (of statement and solution alike), and what follows
 // the last row of the statement.
@@ -54,7 +84,8 @@ public:
     // Remembers the next item and appends its solution, with its column mark and letter.
     void AddItem(const std::string& statementText, const std::string& solutionText);
     // Draws the head line among the wordings (one range draw), then writes the items of
-    // the statement and what ends it.
+    // the statement and what ends it. Items too wide for their columns get a set with fewer
+    // columns, in the statement and in the solution alike (each chosen on its own).
     void WriteStatement(const std::vector<std::string>& headLines);
 
 private:
@@ -64,6 +95,12 @@ private:
     int count_;
     ItemLook look_;
     std::vector<std::string> items_;
+    // The solution items as written with the preferred columns, and where they stand in
+    // the solution.
+    std::vector<std::string> solutions_;
+    std::size_t solutionStart_ = 0;
+    std::string solutionWritten_;
+    void RefitSolution();
 };
 
 // Calls draw() until it gives an item whose statement is neither empty (a refused draw)

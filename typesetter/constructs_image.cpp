@@ -92,8 +92,12 @@ void ImageHandler(TypesetterState& st, const std::u32string& piece, DrawingSurfa
             s.LineBy(X, y0 + dy, 0, -dy, c);
         }
         s.SetDrawWidth(1);
+        // A hung picture claims no height in its line; the driver keeps the next lines
+        // clear of it, or they would print over the picture.
+        if (dy < 0) st.HungPictures.push_back({std::min(X, X + dx), std::max(X, X + dx), Y - dy - Hp});
     } else {
         f.WriteBox(t, dx + t, dy - Hp + t, 0.574 * Hp, foot + t, piece);
+        if (dy < 0) st.LineHang = std::max(st.LineHang, -dy - Hp);
     }
     f.RestoreFont();
 }

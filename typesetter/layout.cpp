@@ -58,6 +58,25 @@ SavedFont SaveFont(DrawingSurface& s) {
     return {s.FontName(), s.FontSize(), s.FontItalic(), s.FontBold(), s.FontUnderline(), s.FontStrikethru(), s.ForeColor()};
 }
 
+// The top of a line (lineY, from the top margin) moved below every hung picture that it
+// would touch; a line that stays clear of a picture's sides flows beside it, unless it opens
+// the next problem, which never stands beside the picture of another.
+double KeepClearOfPictures(const TypesetterState& st, double lineY, double left, double right, double gapX,
+                           double gapY, bool opensProblem) {
+    bool moved = true;
+    while (moved) {
+        moved = false;
+        for (const TypesetterState::HungPicture& p : st.HungPictures) {
+            const bool beside = !opensProblem && (right + gapX <= p.left || left >= p.right + gapX);
+            if (!beside && lineY + st.MarginTop < p.bottom + gapY) {
+                lineY = p.bottom + gapY - st.MarginTop;
+                moved = true;
+            }
+        }
+    }
+    return lineY;
+}
+
 void RestoreFont(DrawingSurface& s, const SavedFont& f) {
     s.SetFontName(f.name);
     s.SetFontSize(f.size);
@@ -98,19 +117,22 @@ void LayoutText(TypesetterState& st, const std::string& utf8Text, double& baseSi
             st.PageWidth = surface.Width();
             st.PageHeight = surface.Height();
         }
-        // The parts of the paper that the printer can't reach: fixed, never zoomed.
-        st.MarginLeft = kPageMargin - 348;
-        st.MarginRight = kPageMargin - 148;
-        st.MarginTop = kPageMargin - 287;
-        st.MarginBottom = kPageMargin - 286;
+        // The printer and PDF surfaces start at the paper's edge (full page), so the margins
+        // are the screen page's 16 mm from the edge on every side, never zoomed. Margins less
+        // a printer's unreachable border put the text off centre and let a hole punch
+        // through the problem numbers.
+        st.MarginLeft = st.MarginRight = st.MarginTop = st.MarginBottom = kPageMargin;
     }
 
     st.FlowResult = 0;
+    st.HungPictures.clear();
     double lineY = 0;
     double th = 0;
     for (std::u32string& rawLine : lines) {
         std::u32string line = ExpandLocaleCodes(st, rawLine);
+        bool opensProblem = false;
         if (line.compare(0, 5, U"#MARK") == 0) {
+            opensProblem = true;
             st.FlowResult = MarkNumber(line);
             // Marks beyond the table are not taken: the caller's limit, kept safely.
             if (st.MarkCount < kMaxMarks) {
@@ -134,6 +156,7 @@ void LayoutText(TypesetterState& st, const std::string& utf8Text, double& baseSi
             st.FractionDepth = 0;
             st.ScriptDepth = 0;
             st.BoxOverflow = false;
+            st.LineHang = 0;
             const SavedFont saved = SaveFont(surface);
             th = surface.TextHeight("H");
             st.DrawPass = false;
@@ -146,13 +169,22 @@ void LayoutText(TypesetterState& st, const std::string& utf8Text, double& baseSi
             st.BoxOverflow = false;
             RestoreFont(surface, saved);
             const LayoutBox& box = st.BoxTable[1];
+            if (!st.HungPictures.empty()) {
+                const double left = st.LineIndent + st.MarginLeft;
+                lineY = KeepClearOfPictures(st, lineY, left, left + box.lead + box.width, th / 2, th / 5, opensProblem);
+                opensProblem = false;
+            }
             surface.SetCurrentX(box.lead + st.LineIndent + st.MarginLeft);
             surface.SetCurrentY(box.over + lineY + st.MarginTop);
-            if (surface.CurrentY() >= st.PageHeight - st.MarginBottom - (box.bottom + box.over)) {
+            // A line whose hung picture would reach below the page goes to the next page
+            // with it, so that the picture is not cut off at the foot of the sheet.
+            const bool pictureFits = st.LineHang <= 0 || lineY == 0 || surface.CurrentY() + st.LineHang <= st.PageHeight - st.MarginBottom;
+            if (surface.CurrentY() >= st.PageHeight - st.MarginBottom - (box.bottom + box.over) || !pictureFits) {
                 st.FlowResult = -st.FlowResult;
                 pageFull = true;
                 break;
             }
+            st.InkGroup += 1;
             std::u32string scratch;
             if (head.empty()) {
                 InterpretMarkup(st, line, surface, scratch);

@@ -185,8 +185,12 @@ void Interpreter::Run() {
                 if (!ValueCode(p, value)) return;
                 const double x =
                     LeadingNumber(value) / 100 * (st_.PageWidth - st_.MarginLeft - st_.MarginRight) + entryX_;
-                if (st_.DrawPass) s_.SetCurrentX(x);
-                else pen_ = x;
+                if (st_.DrawPass) {
+                    s_.SetCurrentX(x);
+                    st_.InkGroup += 1;
+                } else {
+                    pen_ = x;
+                }
                 firstCounted_ = segmentCount_ + 1;
             } else {
                 int entity = 0;

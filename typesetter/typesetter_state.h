@@ -72,6 +72,20 @@ struct TypesetterState {
     // Called between lines so that a window stays alive during a long layout.
     std::function<void()> YieldToEvents;
 
+    // Pictures hung from the line above (negative height) reach below their own line. The
+    // measure pass of a line notes how far below the line's top its lowest one ends; the
+    // draw pass where each one stands on the page, so that later lines keep clear of it.
+    double LineHang = 0;
+    struct HungPicture {
+        double left = 0, right = 0, bottom = 0;
+    };
+    std::vector<HungPicture> HungPictures;
+
+    // Which drawings of a page stand together: LayoutText counts up before each line it
+    // draws and the interpreter at each column position ("&SP") of the draw pass. The
+    // engine doesn't read it; a checker of finished pages tells items apart by it.
+    int InkGroup = 0;
+
     // Results of LayoutText.
     std::int32_t FlowResult = 0;
     std::int32_t MarkCount = 0;

@@ -21,6 +21,7 @@ void TrigonometricEquations(GeneratorWorkspace& ws) {
     ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& "
                    "[0\u00B0& ,& 360\u00B0).&LF";
     std::vector<int> used;
+    std::vector<std::string> equations, answers;
     for (int i = 1; i <= n; ++i) {
         int k = 0;
         RetryBound bound;
@@ -31,18 +32,12 @@ void TrigonometricEquations(GeneratorWorkspace& ws) {
         }
         used.push_back(k);
         const TrigEquationTemplate& row = kTrigEquationTemplates[static_cast<std::size_t>(k - 1)];
-        const bool odd = i % 2 == 1;
         const std::string lead = "&+B" + ItemLetter(i) + ")&-B  ";
-        ws.Statement += std::string(odd ? "&SP=5:" : "&SP=50:") + lead +
-                        ExpandTrigEquation(row.equation, kTrigSquareWithBlank);
+        equations.push_back(lead + ExpandTrigEquation(row.equation, kTrigSquareWithBlank));
         std::string answer = row.solutions;
         if (!answer.empty() && answer[0] >= 'a' && answer[0] <= 'z') answer[0] = static_cast<char>(answer[0] - 32);
-        ws.Solution += std::string(odd ? "&SP=10:" : "&SP=50:") + lead + answer;
-        if (!odd || i == n) {
-            ws.Statement += "&LF";
-            ws.Solution += "&LF";
-        }
+        answers.push_back(ReplaceAll(ReplaceAll(lead + answer, "\u00BA", "\u00B0"), "@", "&+Ix&-I"));
     }
+    WriteTwoColumnItems(ws, equations, answers);
     ws.Statement += "&LF";
-    ws.Solution = ReplaceAll(ReplaceAll(ws.Solution, "\u00BA", "\u00B0"), "@", "&+Ix&-I");
 }

@@ -22,22 +22,17 @@ void IntegralList::AddItem(const std::string& statementText, const std::string& 
 
 void IntegralList::Write() {
     const int n = static_cast<int>(statements_.size());
-    std::string statement = "&-ISolve the following integrals:&LF";
+    std::vector<std::string> statementItems, solutionItems;
     for (int i = 1; i <= n; ++i) {
-        // Item numbers 1, 2, 0 modulo 3 take the first, second and third column.
-        const int column = (i - 1) % 3;
         // Item letters are upright: an integrand or an antiderivative may leave italic on.
-        statement += statementColumns_[column] + "&-I&+B" + ItemLetter(i) + ")&-B " + statements_[i - 1];
-        if (column == 2 || i == n) statement += "&LF&LF";
+        statementItems.push_back("&-I&+B" + ItemLetter(i) + ")&-B " + statements_[i - 1]);
+        solutionItems.push_back("&-I&+B" + ItemLetter(i) + ")&-B " + solutions_[i - 1]);
     }
-    std::string solution;
-    for (int i = 1; i <= n; ++i) {
-        const int column = (i - 1) % 2;
-        solution += kIntegralSolutionColumns[column] + "&-I&+B" + ItemLetter(i) + ")&-B " + solutions_[i - 1];
-        if (column == 1 || i == n) solution += "&LF";
-    }
-    ws_.Statement = statement;
-    ws_.Solution = solution;
+    // Integrals too wide for their columns get fewer columns.
+    const ColumnMarks& statementColumns = FitColumns(statementItems, statementColumns_, kStatementColumnSets);
+    const ColumnMarks& solutionColumns = FitColumns(solutionItems, kIntegralSolutionColumns, kSolutionColumnSets);
+    ws_.Statement = "&-ISolve the following integrals:&LF" + ItemRows(statementItems, statementColumns, "&LF&LF");
+    ws_.Solution = ItemRows(solutionItems, solutionColumns, "&LF");
 }
 
 std::string ShiftedVariable(const std::string& variable, double p) {

@@ -339,6 +339,8 @@ const ColumnMarks kDerivativeColumns = {"&SP=5:", "&SP=50:"};
 // The solution's rows begin after the word "Solution:", which the first statement column
 // would run into.
 const ColumnMarks kDerivativeSolutionColumns = {"&SP=10:", "&SP=55:"};
+const ColumnMarks kDerivativeColumn = {"&SP=5:"};
+const ColumnMarks kDerivativeSolutionColumn = {"&SP=10:"};
 
 // The drill of derivatives: the type counter runs round the 19 types, a coin draws it
 // anew; two columns in statement and solution.
@@ -360,16 +362,18 @@ void DerivativeDrill(GeneratorWorkspace& ws, DerivativeItem (*make)(GeneratorWor
         statements.push_back(item.function);
         solutions.push_back(item.derivative);
     }
-    std::string statement = "Find the derivative of the following functions:&LF";
-    std::string solution;
+    std::vector<std::string> statementItems, solutionItems;
     for (int i = 1; i <= count; ++i) {
-        const std::string& mark = kDerivativeColumns[(i - 1) % 2];
-        const bool endOfRow = i % 2 == 0 || i == count;
-        statement += mark + "&+B" + ItemLetter(i) + ")&-B  &+Iy =&-I " + statements[i - 1] + (endOfRow ? "&LF" : "");
-        solution += kDerivativeSolutionColumns[(i - 1) % 2] + "&+B" + ItemLetter(i) + ")&-B  &+Iy&-I_ '_ = " + solutions[i - 1] + (endOfRow ? "&LF" : "");
+        statementItems.push_back("&+B" + ItemLetter(i) + ")&-B  &+Iy =&-I " + statements[i - 1]);
+        solutionItems.push_back("&+B" + ItemLetter(i) + ")&-B  &+Iy&-I_ '_ = " + solutions[i - 1]);
     }
-    ws.Statement = statement + "&LF";
-    ws.Solution = solution;
+    // A derivative too wide for half the line gets a line of its own.
+    const ColumnMarks& statementColumns = FitColumns(statementItems, kDerivativeColumns, {&kDerivativeColumn});
+    const ColumnMarks& solutionColumns =
+        FitColumns(solutionItems, kDerivativeSolutionColumns, {&kDerivativeSolutionColumn});
+    ws.Statement = "Find the derivative of the following functions:&LF" +
+                   ItemRows(statementItems, statementColumns, "&LF") + "&LF";
+    ws.Solution = ItemRows(solutionItems, solutionColumns, "&LF");
 }
 } // namespace
 

@@ -44,6 +44,9 @@ std::string TrigIdentityItem(GeneratorWorkspace& ws, int templateNumber) {
     return text;
 }
 
+const ColumnMarks kIdentityColumns = {"&SP=1:", "&SP=48:"};
+const ColumnMarks kIdentityColumn = {"&SP=1:"};
+
 // Routine 3: identities to prove, two to a line; no proof is given.
 void TrigonometricIdentities(GeneratorWorkspace& ws) {
     if (ws.DescribeMode) {
@@ -55,12 +58,13 @@ void TrigonometricIdentities(GeneratorWorkspace& ws) {
     ws.Statement = Coin(ws, 0.5f) ? "&-I&-BProve the following trigonometric identities.&LF"
                                   : "&-I&-BGive a proof of the following trigonometric identities.&LF";
     std::vector<int> used;
+    std::vector<std::string> items;
     for (int i = 1; i <= n; ++i) {
         const int k = DrawNewTemplate(ws, kTrigIdentityCount, used);
-        const std::string text = TrigIdentityItem(ws, k);
-        ws.Statement += std::string(i % 2 == 1 ? "&SP=1:" : "&SP=48:") + "&+B" + ItemLetter(i) + ")&-B " + text;
-        if (i % 2 == 0 || i == n) ws.Statement += "&LF&LF";
+        items.push_back("&+B" + ItemLetter(i) + ")&-B " + TrigIdentityItem(ws, k));
     }
+    // An identity too wide for half the line gets a line of its own.
+    ws.Statement += ItemRows(items, FitColumns(items, kIdentityColumns, {&kIdentityColumn}), "&LF&LF");
     // The line ends like every other solution's, so that a blank line parts this problem
     // from the next one.
     ws.Solution = "&SP=10: -&LF";
@@ -77,19 +81,15 @@ void TrigonometricEquationsList(GeneratorWorkspace& ws) {
     ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0\u00B0& "
                    ",& 360\u00B0).&LF";
     std::vector<int> used;
+    std::vector<std::string> equations, answers;
     for (int i = 1; i <= n; ++i) {
         const int k = DrawNewTemplate(ws, kTrigEquationCount, used);
         const TrigEquationTemplate& row = kTrigEquationTemplates[static_cast<std::size_t>(k - 1)];
         const std::string lead = "&+B" + ItemLetter(i) + ")&-B ";
-        const bool odd = i % 2 == 1;
-        ws.Statement += std::string(odd ? "&SP=5:" : "&SP=50:") + lead +
-                        ExpandTrigEquation(row.equation, kTrigSquareWithScriptBlank);
+        equations.push_back(lead + ExpandTrigEquation(row.equation, kTrigSquareWithScriptBlank));
         std::string answer = ExpandTrigEquation(row.solutions, kTrigSquareWithScriptBlank);
         if (!answer.empty() && answer[0] >= 'a' && answer[0] <= 'z') answer[0] = static_cast<char>(answer[0] - 32);
-        ws.Solution += std::string(odd ? "&SP=10:" : "&SP=50:") + lead + answer;
-        if (!odd || i == n) {
-            ws.Statement += "&LF";
-            ws.Solution += "&LF";
-        }
+        answers.push_back(lead + answer);
     }
+    WriteTwoColumnItems(ws, equations, answers);
 }

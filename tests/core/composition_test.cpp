@@ -74,6 +74,21 @@ TEST(Composition, SolutionsTogetherRunOnAsOneParagraph) {
     EXPECT_EQ(bench.app.Blocks[4].problem, -2);
 }
 
+TEST(Composition, ARunOnSolutionWithColumnsEndsItsLine) {
+    TestBench bench;
+    bench.SetProblems({{"A", "&SP=10: -"}, {"B", "&SP=10: -&LF"}, {"C", "c"}});
+    bench.app.Settings.SolutionPosition = 2;
+    bench.app.Settings.NumberColour = 0;
+    ComposeDocument(bench.app, true, 0);
+    ASSERT_EQ(bench.app.BlockCount, 6);
+    const std::string& first = bench.app.Blocks[4].text;
+    EXPECT_EQ(first.substr(first.size() - 12), "&SP=10: -&LF");
+    const std::string& second = bench.app.Blocks[5].text;
+    EXPECT_EQ(second.substr(second.size() - 12), "&SP=10: -&LF");
+    const std::string& third = bench.app.Blocks[6].text;
+    EXPECT_EQ(third.substr(third.size() - 5), "&-B& c");
+}
+
 TEST(Composition, EmptySolutionShiftsTheSolutionNumbers) {
     TestBench bench;
     // Generators end their solutions with a line end, so every solution mark opens a line.

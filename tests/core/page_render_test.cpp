@@ -117,11 +117,12 @@ TEST(PrintOnePage, TitleRuleAndBottomCentrePageNumber) {
     PrintOnePage(bench.app, typesetter, printer, 1);
     ASSERT_FALSE(printer.boxes.empty());
     const auto& rule = printer.boxes.front();
-    const double m = 9.5 / 25.4 * 1440.0;
+    // Between the margins of 16 mm, under the title that begins at the top margin.
+    const double m = 16 / 25.4 * 1440.0;
     EXPECT_DOUBLE_EQ(rule.x, m);
-    EXPECT_DOUBLE_EQ(rule.y, 3.3 * 240);
+    EXPECT_DOUBLE_EQ(rule.y, m + 1.05 * 240);
     EXPECT_DOUBLE_EQ(rule.dy, 0.6 * 240);
-    EXPECT_DOUBLE_EQ(rule.x + rule.dx, kA4Width - m - 2);
+    EXPECT_DOUBLE_EQ(rule.x + rule.dx, kA4Width - m);
     EXPECT_EQ(rule.color, Rgb(128, 128, 128));
     EXPECT_EQ(printer.lines.size(), 4u);
     for (const auto& l : printer.lines) EXPECT_EQ(l.color, Rgb(255, 255, 255));
@@ -152,7 +153,7 @@ TEST(PrintOnePage, TopPageNumberMovesTheRuleDown) {
     FixedSurface printer(kA4Width, kA4Height, 1);
     PrintOnePage(bench.app, typesetter, printer, 1);
     ASSERT_FALSE(printer.boxes.empty());
-    EXPECT_DOUBLE_EQ(printer.boxes.front().y, 5.1 * 240);
+    EXPECT_DOUBLE_EQ(printer.boxes.front().y, 16 / 25.4 * 1440.0 + 2.85 * 240);
     EXPECT_DOUBLE_EQ(printer.texts.back().y, typesetter.MarginTop);
     // Without a title there is no rule, and code 0 prints no number.
     bench.app.Settings.Title = "";

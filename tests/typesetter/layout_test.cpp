@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
+#include <fstream>
 #include <set>
 
 #include "tests/typesetter/typesetter_test_util.h"
@@ -39,7 +41,7 @@ TEST_F(Layout, ScreenGeometry) {
     EXPECT_DOUBLE_EQ(st.MarginTop, 2 * 16 / 25.4 * 1440);
 }
 
-TEST_F(Layout, PrinterGeometryHasFixedOffsets) {
+TEST_F(Layout, PrinterMarginsAreTheScreenMarginsFromThePaperEdge) {
     RecordingSurface printer;
     printer.width = 11906;
     printer.height = 16838;
@@ -50,10 +52,10 @@ TEST_F(Layout, PrinterGeometryHasFixedOffsets) {
     const double m = 16 / 25.4 * 1440;
     EXPECT_DOUBLE_EQ(st.PageWidth, 11906);
     EXPECT_DOUBLE_EQ(st.PageHeight, 16838);
-    EXPECT_DOUBLE_EQ(st.MarginLeft, m - 348);
-    EXPECT_DOUBLE_EQ(st.MarginRight, m - 148);
-    EXPECT_DOUBLE_EQ(st.MarginTop, m - 287);
-    EXPECT_DOUBLE_EQ(st.MarginBottom, m - 286);
+    EXPECT_DOUBLE_EQ(st.MarginLeft, m);
+    EXPECT_DOUBLE_EQ(st.MarginRight, m);
+    EXPECT_DOUBLE_EQ(st.MarginTop, m);
+    EXPECT_DOUBLE_EQ(st.MarginBottom, m);
 }
 
 TEST_F(Layout, NoPrinterKeepsTheLastMargins) {
@@ -258,4 +260,68 @@ TEST_F(Layout, TooManyLinesMarksAndBoxesAreSafe) {
     for (int i = 0; i < 150; ++i) nested = "#COC(" + nested + "#N)(#SQR(y#SQR)#COC)";
     Run(nested + "&LFafter");
     EXPECT_NE(s.Joined().find("after"), std::string::npos);
+}
+
+namespace {
+// A picture file that the stub loader reads as 400 by 300 pixels.
+struct HungPicture : Layout {
+    std::filesystem::path folder = std::filesystem::temp_directory_path() / "sumforge_hung_picture_test";
+    void SetUp() override {
+        Layout::SetUp();
+        std::filesystem::create_directories(folder);
+        std::ofstream(folder / "fig.gif") << "x";
+        st.PictureFolder = folder.string();
+        st.LoadPicture = [](const std::string&, double& w, double& h) {
+            w = 400;
+            h = 300;
+            return true;
+        };
+    }
+    void TearDown() override { std::filesystem::remove_all(folder); }
+    // The top of the first text run that begins with the letter.
+    double TopOf(const std::string& letter) const {
+        for (const auto& t : s.texts)
+            if (t.text == letter) return t.y;
+        return -1;
+    }
+};
+const std::string kHung = "#IMG('fig.gif'DXmm=40:DYmm=-30:#IMG)";
+} // namespace
+
+TEST_F(HungPicture, TheNextLinesStartBelowItsFoot) {
+    Run(kHung + " A&LFB&LFC");
+    ASSERT_EQ(s.pictures.size(), 1u);
+    const double foot = s.pictures[0].y; // the height is negative: the picture runs up from y
+    EXPECT_LT(s.pictures[0].h, 0);
+    EXPECT_GT(foot, TopOf("A") + 2 * kLineAdvance);
+    EXPECT_GE(TopOf("B"), foot);
+    EXPECT_NEAR(TopOf("C") - TopOf("B"), kLineAdvance, 1e-6);
+}
+
+TEST_F(HungPicture, ShortLinesFlowBesideIt) {
+    Run("A&SP=60:" + kHung + "&LFB&LFC&LF&SP=70:D");
+    ASSERT_EQ(s.pictures.size(), 1u);
+    EXPECT_NEAR(TopOf("B") - TopOf("A"), kLineAdvance, 1e-6);
+    EXPECT_NEAR(TopOf("C") - TopOf("B"), kLineAdvance, 1e-6);
+    // D stands under the picture's columns: it waits for the picture's foot.
+    EXPECT_GE(TopOf("D"), s.pictures[0].y);
+}
+
+TEST_F(HungPicture, APictureThatWouldRunOffThePageGoesToTheNextWithItsLine) {
+    std::string lines = "#MARK=001x&LF";
+    for (int i = 0; i < 40; ++i) lines += "x&LF";
+    Run(lines + "#MARK=002y #IMG('fig.gif'DXmm=80:DYmm=-60:#IMG)&LFz");
+    EXPECT_EQ(st.FlowResult, -2);
+    EXPECT_TRUE(s.pictures.empty());
+    // Without the picture the same line fits.
+    Run(lines + "#MARK=002y&LFz");
+    EXPECT_EQ(st.FlowResult, 2);
+}
+
+TEST_F(HungPicture, TheNextProblemNeverStandsBesideIt) {
+    Run("#MARK=001A&SP=60:" + kHung + "&LF#MARK=002B");
+    ASSERT_EQ(s.pictures.size(), 1u);
+    EXPECT_GE(TopOf("B"), s.pictures[0].y);
+    EXPECT_EQ(st.MarkCount, 2);
+    EXPECT_GE(st.MarkTop[1], s.pictures[0].y);
 }

@@ -3,7 +3,7 @@
 set -euo pipefail
 
 PACKAGES=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libgtest-dev
-          libbenchmark-dev fonts-liberation2 fonts-dejavu-core xvfb xauth poppler-utils)
+          libbenchmark-dev fonts-liberation2 fonts-dejavu-core fonts-stix xvfb xauth poppler-utils)
 
 missing=()
 for p in "${PACKAGES[@]}"; do

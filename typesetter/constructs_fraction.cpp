@@ -1,5 +1,7 @@
 // Fractions, arrows with texts and stacked pairs: one piece above another, on the axis of
 // the text around them.
+#include <algorithm>
+
 #include "typesetter/construct_frame.h"
 #include "typesetter/construct_handlers.h"
 
@@ -25,6 +27,15 @@ TwoPartMetrics Metrics(double H, double rule) {
     return {Clamped(rule), Clamped(0.0354 * H), Clamped(0.0354 * H), Clamped(0.09 * H)};
 }
 
+// A part whose ink reaches past its line of plain text (a root's bar above a denominator,
+// a root's foot or a subscript below a numerator) would touch the rule at the standard
+// gaps and read as a double rule: such a part keeps the clearance a printed fraction gives.
+void ClearOfTheRule(TwoPartMetrics& m, const LayoutBox& upper, const LayoutBox& lower, double H) {
+    const double clearance = 0.12 * H;
+    if (upper.bottom > H + 0.5) m.gapAbove = std::max(m.gapAbove, clearance);
+    if (lower.over > 0.5) m.gapBelow = std::max(m.gapBelow, clearance);
+}
+
 // The fraction and the arrow share their cutting and their measure.
 void StackedOnRule(TypesetterState& st, const std::u32string& piece, DrawingSurface& s, bool arrow) {
     ConstructFrame f(st, s);
@@ -40,6 +51,7 @@ void StackedOnRule(TypesetterState& st, const std::u32string& piece, DrawingSurf
         f.Piece(2, lowerText, 0, 0);
         const LayoutBox& u = f.Child(1);
         const LayoutBox& l = f.Child(2);
+        if (!arrow) ClearOfTheRule(m, u, l, f.H);
         m.Centre(u, l);
         const double over = u.over;
         const double axis = m.gapAbove + u.bottom + m.rule / 2;
@@ -49,6 +61,7 @@ void StackedOnRule(TypesetterState& st, const std::u32string& piece, DrawingSurf
     } else {
         const LayoutBox u = f.Child(1);
         const LayoutBox l = f.Child(2);
+        if (!arrow) ClearOfTheRule(m, u, l, f.H);
         m.Centre(u, l);
         const double X = f.X, Y = f.Y;
         f.Piece(1, upperText, X + m.upperShift + m.overhang + u.lead, arrow ? Y - 2 * m.overhang : Y);

@@ -37,7 +37,9 @@ void RootHandler(TypesetterState& st, const std::u32string& piece, DrawingSurfac
         double over = rad.over + gapTop + bar;
         if (hasIndex) {
             const LayoutBox& idx = f.Child(2);
-            lead = std::max(lead, rad.lead + indexGap + idx.width + idx.lead);
+            // The index keeps a little room on its left, so that it doesn't touch an
+            // opening parenthesis before the root.
+            lead = std::max(lead, rad.lead + indexGap + idx.width + idx.lead + 0.1 * H);
             over = std::max(over, (idx.over + idx.bottom) - (rad.bottom + gapFoot - hook - indexRise));
         }
         f.WriteBox(lead, overhang + rad.width, over, rad.axis, rad.bottom + gapFoot, piece);
@@ -90,9 +92,9 @@ void PowerHandler(TypesetterState& st, const std::u32string& piece, DrawingSurfa
     s.SetFontItalic(f.italic);
     st.ScriptDepth += 1;
     if (st.ScriptDepth == 1) s.SetFontSize(s.FontSize() * 8 / 12);
-    // Deeper exponents shrink only in the measure pass; the drawing keeps the size of the
-    // parent from depth 3 on. Both are required as they stand.
-    else if (st.ScriptDepth == 2 || (!st.DrawPass && st.ScriptDepth > 2)) s.SetFontSize(s.FontSize() * 6 / 8);
+    // Deeper exponents shrink in the drawing as in the measure: drawn at the size of their
+    // parent, a third-level exponent stood as large as its base and overran the room kept.
+    else if (st.ScriptDepth >= 2) s.SetFontSize(s.FontSize() * 6 / 8);
     f.Piece(2, exponent, f.X + b.width + e.lead, f.Y - b.over - e.bottom + (8.0 / 12) * H);
     st.ScriptDepth -= 1;
     if (!st.DrawPass) {

@@ -22,7 +22,14 @@ bool IsUprightCharacter(char32_t c) {
            c == U'[' || c == U']' || c == U'|' || c == U'{' || c == U'}';
 }
 
-constexpr char32_t kEnDash = U'\u2013';
+// "-" prints as the true minus sign, of the width of "+": one sign, one length, for every
+// negative number and every subtraction (an en dash beside the minus signs of the symbol
+// face printed two lengths in one problem).
+constexpr char32_t kMinus = U'\u2212';
+
+bool IsClosingDelimiter(char32_t c) { return c == U')' || c == U']' || c == U'}' || c == U'|'; }
+bool IsOpeningDelimiter(char32_t c) { return c == U'(' || c == U'[' || c == U'{' || c == U'|'; }
+bool IsLetter(char32_t c) { return (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z'); }
 
 // One call of the interpreter: the frame of the routine.
 class Interpreter {
@@ -79,6 +86,10 @@ private:
     int segmentCount_ = 0;
     int firstCounted_ = 1;
     std::size_t breakAt_ = 0;
+    // The last plain character, and whether it was an italic letter: a delimiter beside an
+    // italic letter keeps it clear.
+    char32_t lastCharacter_ = 0;
+    bool lastItalicLetter_ = false;
 };
 
 void Interpreter::Run() {
@@ -203,7 +214,9 @@ void Interpreter::Run() {
                 if (entity != 0) {
                     Entity(entity);
                     p += st_.SymbolName[entity].size();
-                } else if (At(text_, p, U"& ")) {
+                } else if (At(text_, p, U"& ") || At(text_, p, U"&|")) {
+                    // "&|" parts the cells of a grid row; elsewhere it is a space that
+                    // doesn't break.
                     if (st_.DrawPass) s_.PrintText(" ");
                     else pen_ += s_.TextWidth(" ");
                     p += 2;
@@ -281,13 +294,13 @@ bool Interpreter::ValueCode(std::size_t& p, std::u32string& value) {
 }
 
 void Interpreter::PlainCharacter(char32_t c) {
-    if (c == U'-') c = kEnDash;
+    if (c == U'-') c = kMinus;
     const bool italic = s_.FontItalic();
     double shift = 0;
     double bearing = 0;
     int row = -1;
     if (c == U'+') row = 0;
-    else if (c == kEnDash) row = 1;
+    else if (c == kMinus) row = 0; // the minus sign's bar stands where the plus sign's does
     else if (c == U'=') row = 2;
     if (row >= 0) {
         shift = st_.OperatorShift[row][sizeClass_ - 1] * H_;
@@ -297,11 +310,20 @@ void Interpreter::PlainCharacter(char32_t c) {
         s_.SetFontItalic(false);
     }
     if (bearing < 1.0) bearing = 1.0;
+    // An italic letter leans into an upright delimiter after it, and a delimiter before it
+    // meets its foot: a small kern keeps them apart, as the italic correction of a maths
+    // book does.
+    const bool italicLetter = s_.FontItalic() && IsLetter(c);
+    double kern = 0;
+    if (lastItalicLetter_ && IsClosingDelimiter(c)) kern = 0.06 * H_;
+    else if (italicLetter && IsOpeningDelimiter(lastCharacter_)) kern = 0.03 * H_;
+    lastCharacter_ = c;
+    lastItalicLetter_ = italicLetter;
     const std::string glyph = ToUtf8(c);
     if (st_.DrawPass) {
         const double y = s_.CurrentY();
         s_.SetCurrentY(y + shift);
-        s_.SetCurrentX(s_.CurrentX() + bearing);
+        s_.SetCurrentX(s_.CurrentX() + kern + bearing);
         s_.PrintText(glyph);
         s_.SetCurrentX(s_.CurrentX() + bearing);
         s_.SetCurrentY(y);
@@ -309,11 +331,13 @@ void Interpreter::PlainCharacter(char32_t c) {
     } else {
         // The measure pass keeps italic off after a digit or operator: its widths differ a
         // little from the drawing's, which is accepted.
-        pen_ += s_.TextWidth(glyph) + 2 * bearing;
+        pen_ += s_.TextWidth(glyph) + 2 * bearing + kern;
     }
 }
 
 void Interpreter::Script(char32_t c, bool subscript) {
+    lastCharacter_ = 0;
+    lastItalicLetter_ = false;
     s_.SetFontSize(fontSize_ * 8 / 12);
     const bool italic = s_.FontItalic();
     const std::string glyph = ToUtf8(c);
@@ -335,8 +359,16 @@ void Interpreter::Script(char32_t c, bool subscript) {
 }
 
 void Interpreter::Entity(int index) {
+    lastCharacter_ = 0;
+    lastItalicLetter_ = false;
     const std::string font = index <= 74 ? "Symbol" : "MT Extra";
     s_.SetFontName(font);
+    // Signs stand upright in italic text, as digits and operators do; Greek letters follow
+    // the text. (The symbol face has its signs in the upright style only.)
+    const bool italic = s_.FontItalic();
+    const std::u32string glyph32 = ToU32(st_.SymbolGlyph[index]);
+    const bool greek = glyph32.size() == 1 && glyph32[0] >= U'\u0391' && glyph32[0] <= U'\u03F5';
+    if (!greek) s_.SetFontItalic(false);
     if (st_.DrawPass) {
         const double symbolAscent = AscentTwips(st_, s_);
         const double y = s_.CurrentY();
@@ -346,6 +378,7 @@ void Interpreter::Entity(int index) {
     } else {
         pen_ += s_.TextWidth(st_.SymbolGlyph[index]);
     }
+    s_.SetFontItalic(italic);
     // Out of a symbol font by way of a text font, back to the font at entry.
     s_.SetFontName("Courier New");
     s_.SetFontName(entryFontName_);
@@ -359,7 +392,7 @@ void Interpreter::PowerOfTen(std::size_t& p) {
     p = q;
     digits = TrimBlanks(digits);
     if (!digits.empty() && digits[0] == U'+') digits.erase(0, 1);
-    else if (!digits.empty() && digits[0] == U'-') digits[0] = kEnDash;
+    else if (!digits.empty() && digits[0] == U'-') digits[0] = kMinus;
     const bool italic = s_.FontItalic();
     s_.SetFontItalic(false);
     const std::string ten = ToUtf8(st_.PowerOfTenText);
@@ -403,6 +436,8 @@ void Interpreter::DrawnSign(char32_t kind) {
 }
 
 bool Interpreter::Construct(const ConstructTag& tag, std::size_t& p) {
+    lastCharacter_ = 0;
+    lastItalicLetter_ = false;
     const std::u32string piece = ExtractBalancedAt(text_, p, tag.open, tag.close);
     if (segmentCount_ >= kMaxSegments || st_.BoxCounter >= kMaxBoxes) {
         // Fails safe: the tables hold no more; the rest of this string is left out.

@@ -24,9 +24,11 @@ QStringList QtSurface::FamiliesFor(const std::string& fontName) {
     if (fontName == "Times New Roman") return {"Liberation Serif", "DejaVu Serif"};
     if (fontName == "Arial") return {"Liberation Sans", "DejaVu Sans"};
     if (fontName == "Courier New") return {"Liberation Mono", "DejaVu Sans Mono"};
-    // Greek letters and the common signs come from the text face, so that they match it;
-    // the rest from DejaVu.
-    if (fontName == "Symbol" || fontName == "MT Extra") return {"Liberation Serif", "DejaVu Serif", "DejaVu Sans"};
+    // Greek letters and signs come from STIX, a Times-like serif of the text's weight that
+    // has every one of them (the text face lacks the element sign, the union, the double
+    // arrows...; a fallback of the system printed those from a heavier sans face).
+    if (fontName == "Symbol" || fontName == "MT Extra")
+        return {"STIX", "STIXGeneral", "Liberation Serif", "DejaVu Serif", "DejaVu Sans"};
     return {ToQString(fontName), "Liberation Serif", "DejaVu Sans"};
 }
 
@@ -219,7 +221,20 @@ void QtSurface::Line(double x1, double y1, double x2, double y2, std::optional<s
 }
 
 void QtSurface::FilledBox(double x, double y, double dx, double dy, std::optional<std::uint32_t> color) {
-    painter_.fillRect(QRectF(x, y, dx, dy).normalized(), ToQColor(color.value_or(foreColor_)));
+    QRectF box = QRectF(x, y, dx, dy).normalized();
+    if (screenPicture_) {
+        // Whole pixels: a box painted over part of another (the white box that ends the
+        // problem number's box) must cover its soft edge too, or a pale line stays.
+        const double left = std::round(box.left() / twipsPerPixelX_) * twipsPerPixelX_;
+        const double top = std::round(box.top() / twipsPerPixelY_) * twipsPerPixelY_;
+        double right = std::round(box.right() / twipsPerPixelX_) * twipsPerPixelX_;
+        double bottom = std::round(box.bottom() / twipsPerPixelY_) * twipsPerPixelY_;
+        // A thin box (a chart's axis) keeps one pixel.
+        if (box.width() > 0 && right <= left) right = left + twipsPerPixelX_;
+        if (box.height() > 0 && bottom <= top) bottom = top + twipsPerPixelY_;
+        box = QRectF(QPointF(left, top), QPointF(right, bottom));
+    }
+    painter_.fillRect(box, ToQColor(color.value_or(foreColor_)));
 }
 
 void QtSurface::Circle(double cx, double cy, double radius) {

@@ -60,7 +60,7 @@ std::string MatrixMarkup(const TextMatrix& entries) {
         const std::string n = std::to_string(r + 1);
         out += "#RW" + n + "(";
         for (std::size_t c = 0; c < entries[r].size(); ++c) {
-            if (c > 0) out += "& & & ";
+            if (c > 0) out += "&|"; // a cell of its column: the columns stand aligned
             out += entries[r][c];
         }
         out += " #RW" + n + ")";

@@ -203,11 +203,11 @@ TEST_F(Constructs, ExponentialIsAnItalicEAndLeavesItalicOff) {
     EXPECT_FALSE(Find("z")->italic);
 }
 
-TEST_F(Constructs, DeepPowersShrinkOnlyInTheMeasurePass) {
+TEST_F(Constructs, DeepPowersShrinkInBothPasses) {
     Draw("#POT(a#PB)(#POT(b#PB)(#POT(c#PB)(d#POT)#POT)#POT)");
     EXPECT_DOUBLE_EQ(Find("b")->size, 8);
     EXPECT_DOUBLE_EQ(Find("c")->size, 6);
-    EXPECT_DOUBLE_EQ(Find("d")->size, 6); // depth 3 is drawn at its parent's size
+    EXPECT_DOUBLE_EQ(Find("d")->size, 4.5); // depth 3 is drawn at the size the measure made room for
 }
 
 TEST_F(Constructs, ParenthesesReachBeyondTheBody) {

@@ -13,7 +13,7 @@ struct Fixture : ::testing::Test {
     void Draw(const std::string& text, double x = 0, double y = 0) { MeasureAndDraw(st, s, text, x, y); }
 };
 using Interpreter = Fixture;
-constexpr char32_t kEnDash = U'\u2013';
+constexpr char32_t kMinus = U'\u2212';
 } // namespace
 
 TEST_F(Interpreter, EmptyStringBox) {
@@ -34,15 +34,15 @@ TEST_F(Interpreter, PlainTextWidthHasOneTwipBearingEachSide) {
 }
 
 TEST_F(Interpreter, OperatorsTakeShiftAndBearing) {
-    // H = 276 is size class 2: "+" rises 0.07 H, the dash has no shift, "=" 0.07 H.
+    // H = 276 is size class 2: "+" and the minus sign move 0.07 H, "=" 0.07 H.
     const LayoutBox b = Measure("+");
     EXPECT_DOUBLE_EQ(b.width, 0.5 * kEm + 2 * 0.04 * kH);
     Draw("a+b-c=d");
     ASSERT_EQ(s.texts.size(), 7u);
     EXPECT_EQ(s.texts[1].text, "+");
     EXPECT_NEAR(s.texts[1].y, 0.07f * kH, 1e-9);
-    EXPECT_EQ(ToU32(s.texts[3].text), std::u32string(1, kEnDash));
-    EXPECT_NEAR(s.texts[3].y, 0.0, 1e-12);
+    EXPECT_EQ(ToU32(s.texts[3].text), std::u32string(1, kMinus));
+    EXPECT_NEAR(s.texts[3].y, 0.07f * kH, 1e-9);
     EXPECT_NEAR(s.texts[5].y, 0.07f * kH, 1e-9);
     // The bearing of "+" is 0.04 H on each side.
     EXPECT_NEAR(s.texts[1].x - (s.texts[0].x + 0.5 * kEm + 1), 0.04 * kH, 1e-9);
@@ -51,7 +51,7 @@ TEST_F(Interpreter, OperatorsTakeShiftAndBearing) {
 TEST_F(Interpreter, OperatorShiftBySizeClass) {
     s.SetFontSize(4); // H = 92: class 1
     Draw("-");
-    EXPECT_NEAR(s.texts[0].y, -0.012f * 1.15 * 80, 1e-9);
+    EXPECT_NEAR(s.texts[0].y, 0.072f * 1.15 * 80, 1e-9); // the minus sign stands as "+" does
     s.SetFontSize(12);
     s.SetFontSize(20); // H = 460: class 3
     Draw("+");
@@ -198,7 +198,7 @@ TEST_F(Interpreter, PowerOfTen) {
     ASSERT_EQ(s.texts.size(), 4u);
     EXPECT_EQ(s.texts[1].text, "\u00B710");
     EXPECT_FALSE(s.texts[1].italic);
-    EXPECT_EQ(s.texts[2].text, "\u20133");
+    EXPECT_EQ(s.texts[2].text, "\u22123");
     EXPECT_DOUBLE_EQ(s.texts[2].size, 8);
     EXPECT_EQ(s.texts[2].y, s.texts[1].y);
     EXPECT_TRUE(s.texts[3].italic);

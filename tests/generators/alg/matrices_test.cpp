@@ -27,7 +27,7 @@ TEST(MatrixTools, AdjugateTimesMatrixIsTheDeterminant) {
     }
     EXPECT_EQ(Determinant({{1, 2, 3}, {0, 1, 4}, {5, 6, 0}}), 1);
     EXPECT_EQ(MatrixMarkup(Matrix{{1, -2}, {0, 3}}),
-              "#NES(()#RWS(C#RW1(1& & & -2 #RW1)#RW2(0& & & 3 #RW2)#RWS)#NES)");
+              "#NES(()#RWS(C#RW1(1&|-2 #RW1)#RW2(0&|3 #RW2)#RWS)#NES)");
 }
 
 TEST(MatrixEquation, MultiplyingBackGivesC) {

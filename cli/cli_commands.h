@@ -15,5 +15,14 @@ int RunNewCommand(const CliArguments& args);
 // render FILE.col [--pdf OUT.pdf] [--png DIR]
 int RunRenderCommand(const CliArguments& args);
 
+// Output files go through the safe writer: the old file stays whole unless the new one is
+// complete. Each says what failed on standard error and returns false.
+class QByteArray;
+class QImage;
+// Whether path can be written at all, checked before any page is drawn.
+bool CheckOutputFile(const std::string& path, const char* command);
+bool SaveOutputFile(const std::string& path, const QByteArray& bytes, const char* command);
+bool SavePng(const std::string& path, const QImage& image, const char* command);
+
 // Exit status for a call whose words are wrong.
 inline constexpr int kUsageError = 2;

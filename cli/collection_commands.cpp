@@ -1,3 +1,4 @@
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QGuiApplication>
@@ -172,11 +173,15 @@ struct Pagination {
     }
 };
 
-// Every page as printing lays it out, one PDF page each; written whole before it takes its name.
+// Every page as printing lays it out, one PDF page each; made in memory and written whole
+// before it takes its name.
 bool WritePdf(ApplicationState& app, const std::string& path, const char* command) {
-    const std::string temporary = path + ".part";
+    if (!CheckOutputFile(path, command)) return false;
+    QByteArray bytes;
     {
-        QPdfWriter writer(QString::fromStdString(temporary));
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QPdfWriter writer(&buffer);
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));
         writer.setResolution(1200);
@@ -193,20 +198,18 @@ bool WritePdf(ApplicationState& app, const std::string& path, const char* comman
         }
         surface.End();
     }
-    std::error_code ec;
-    fs::rename(temporary, path, ec);
-    if (ec) {
-        std::remove(temporary.c_str());
-        std::cerr << "sumforge-cli " << command << ": cannot write '" << path << "': " << ec.message() << "\n";
-        return false;
-    }
-    return true;
+    return SaveOutputFile(path, bytes, command);
 }
 
 // Every page as the page view draws it at zoom 1: DIR/page-001.png and on.
 bool WritePngs(ApplicationState& app, const std::string& folder, const char* command) {
     std::error_code ec;
     fs::create_directories(folder, ec);
+    if (ec || !fs::is_directory(folder)) {
+        std::cerr << "sumforge-cli " << command << ": cannot make the folder '" << folder << "': "
+                  << (ec ? ec.message() : "not a folder") << "\n";
+        return false;
+    }
     const int kept = app.CurrentPage;
     for (int page = 1; page <= app.PageCount; ++page) {
         QImage image(kSheetWidth, kSheetHeight, QImage::Format_RGB32);
@@ -220,11 +223,7 @@ bool WritePngs(ApplicationState& app, const std::string& folder, const char* com
         }
         char name[32];
         std::snprintf(name, sizeof name, "page-%03d.png", page);
-        const std::string path = (fs::path(folder) / name).string();
-        if (!image.save(QString::fromStdString(path), "PNG")) {
-            std::cerr << "sumforge-cli " << command << ": cannot write '" << path << "'\n";
-            return false;
-        }
+        if (!SavePng((fs::path(folder) / name).string(), image, command)) return false;
     }
     app.CurrentPage = kept;
     return true;
@@ -245,7 +244,8 @@ int ParseNewOptions(const CliArguments& args, NewOptions& o) {
         } else if (a == "--pdf" && hasValue) {
             o.pdfFile = args[++i];
         } else if (a == "--title" && hasValue) {
-            o.settings.Title = args[++i];
+            if (args[++i].size() > kMaxTitleBytes) return fail("--title takes at most 1000 bytes");
+            o.settings.Title = AsFileText(args[i], kMaxTitleBytes);
         } else if (a == "--solutions" && hasValue) {
             if (!ParseSolutions(args[++i], o.settings.SolutionPosition))
                 return fail("--solutions takes none, after, end or page");
@@ -257,9 +257,11 @@ int ParseNewOptions(const CliArguments& args, NewOptions& o) {
             if (!ReadInteger(args[++i], -999, 9999, value)) return fail("--first-problem takes a whole number");
             o.settings.FirstProblemNumber = static_cast<std::int32_t>(value);
         } else if (a == "--prefix" && hasValue) {
-            o.settings.NumberPrefix = args[++i];
+            if (args[++i].size() > kMaxAffixBytes) return fail("--prefix takes at most 1000 bytes");
+            o.settings.NumberPrefix = AsFileText(args[i], kMaxAffixBytes);
         } else if (a == "--suffix" && hasValue) {
-            o.settings.NumberSuffix = args[++i];
+            if (args[++i].size() > kMaxAffixBytes) return fail("--suffix takes at most 1000 bytes");
+            o.settings.NumberSuffix = AsFileText(args[i], kMaxAffixBytes);
         } else if ((a == "--colour" || a == "--color") && hasValue) {
             if (!ParseColour(args[++i], o.settings.NumberColour))
                 return fail("--colour takes #RRGGBB, R,G,B or a decimal colour");
@@ -297,6 +299,9 @@ int ParseNewOptions(const CliArguments& args, NewOptions& o) {
 int RunNewCommand(const CliArguments& args) {
     NewOptions o;
     if (const int status = ParseNewOptions(args, o); status != 0) return status;
+    // A file that can't be written is said once, before any problem is made.
+    if (!o.colFile.empty() && !CheckOutputFile(o.colFile, "new")) return 1;
+    if (!o.pdfFile.empty() && !CheckOutputFile(o.pdfFile, "new")) return 1;
     auto gui = StartGui();
 
     ApplicationState app;
@@ -385,14 +390,19 @@ int RunRenderCommand(const CliArguments& args) {
         std::cerr << "sumforge-cli render: not a collection file (.col): '" << colFile << "'\n";
         return kUsageError;
     }
+    if (!pdfFile.empty() && !CheckOutputFile(pdfFile, "render")) return 1;
     auto gui = StartGui();
     ApplicationState app;
     Pagination pagination(app);
     app.CurrentFileName = colFile;
     if (!OpenFile(app)) {
         const std::string& message = static_cast<QuietWindow*>(app.window)->lastMessage;
-        std::cerr << "sumforge-cli render: cannot open '" << colFile << "': " << (message.empty() ? "Bad file." : message)
-                  << "\n";
+        // A file that could not be read at all carries the system's reason already.
+        if (message.rfind("Cannot open ", 0) == 0)
+            std::cerr << "sumforge-cli render: c" << message.substr(1) << "\n";
+        else
+            std::cerr << "sumforge-cli render: cannot open '" << colFile
+                      << "': " << (message.empty() ? "Bad file." : message) << "\n";
         return 1;
     }
     if (!pdfFile.empty() && !WritePdf(app, pdfFile, "render")) return 1;

@@ -3,6 +3,7 @@
 #include <map>
 
 #include "cli/cli_commands.h"
+#include "core/collection.h"
 #include "generators/catalogue.h"
 #include "generators/hub.h"
 #include "mathservices/utf8_text.h"
@@ -43,9 +44,20 @@ int RunGenerateCommand(const CliArguments& args) {
         return kUsageError;
     }
     GeneratorHub hub;
+    const std::string module = Upper(args[0]);
+    const auto& modules = hub.Modules();
+    if (std::none_of(modules.begin(), modules.end(), [&](const GeneratorModule& m) { return m.name == module; })) {
+        std::cerr << "sumforge-cli generate: no module '" << args[0] << "'; see 'sumforge-cli catalogue'\n";
+        return 1;
+    }
     std::string statement;
     std::string solution;
     hub.RunGenerator(args[0], args[1], statement, solution);
+    // An unknown routine or a fault inside one comes back as the problem's text.
+    if (statement.rfind("<ERROR", 0) == 0) {
+        std::cerr << "sumforge-cli generate: " << statement << "\n";
+        return 1;
+    }
     std::cout << "Statement: " << statement << "\n"
               << "Solution: " << solution << "\n";
     return 0;

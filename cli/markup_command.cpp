@@ -1,3 +1,4 @@
+#include <QBuffer>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPageLayout>
@@ -38,6 +39,7 @@ void Usage() {
 }
 
 // A4 at 96 dpi, enlarged by the zoom: the screen picture of one page.
+constexpr double kMinZoom = 0.5, kMaxZoom = 8;
 constexpr double kA4WidthMm = 210.0, kA4HeightMm = 297.0;
 
 int RenderPng(const MarkupOptions& o) {
@@ -54,17 +56,15 @@ int RenderPng(const MarkupOptions& o) {
         double size = o.size * o.zoom;
         LayoutText(state, o.text, size, surface);
     }
-    if (!image.save(QString::fromStdString(o.pngFile), "PNG")) {
-        std::cerr << "sumforge-cli markup: cannot write '" << o.pngFile << "'\n";
-        return 1;
-    }
-    return 0;
+    return SavePng(o.pngFile, image, "markup") ? 0 : 1;
 }
 
 int RenderPdf(const MarkupOptions& o) {
-    const std::string temporary = o.pdfFile + ".part";
+    QByteArray bytes;
     {
-        QPdfWriter writer(QString::fromStdString(temporary));
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QPdfWriter writer(&buffer);
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));
         writer.setResolution(1200);
@@ -79,14 +79,7 @@ int RenderPdf(const MarkupOptions& o) {
         LayoutText(state, o.text, size, surface);
         surface.End();
     }
-    // Written whole before it takes the name, so that a failure never leaves half a file.
-    std::remove(o.pdfFile.c_str());
-    if (std::rename(temporary.c_str(), o.pdfFile.c_str()) != 0) {
-        std::remove(temporary.c_str());
-        std::cerr << "sumforge-cli markup: cannot write '" << o.pdfFile << "'\n";
-        return 1;
-    }
-    return 0;
+    return SaveOutputFile(o.pdfFile, bytes, "markup") ? 0 : 1;
 }
 } // namespace
 
@@ -106,8 +99,9 @@ int RunMarkupCommand(const CliArguments& args) {
                 return kUsageError;
             }
         } else if (a == "--zoom" && hasValue) {
-            if (!ReadNumber(args[++i], o.zoom) || o.zoom > 8) {
-                std::cerr << "sumforge-cli markup: --zoom needs a factor above 0 and at most 8\n";
+            // The window never draws below half size; 8 is more than any screen's width needs.
+            if (!ReadNumber(args[++i], o.zoom) || o.zoom < kMinZoom || o.zoom > kMaxZoom) {
+                std::cerr << "sumforge-cli markup: --zoom needs a factor from 0.5 to 8\n";
                 return kUsageError;
             }
         } else if (!haveText && (a.empty() || a[0] != '-' || a.size() == 1 || a[1] != '-')) {
@@ -131,6 +125,9 @@ int RunMarkupCommand(const CliArguments& args) {
         static char* argv[] = {name, nullptr};
         app = std::make_unique<QGuiApplication>(argc, argv);
     }
+    // A file that can't be written is said once, before any drawing.
+    if (!o.pngFile.empty() && !CheckOutputFile(o.pngFile, "markup")) return 1;
+    if (!o.pdfFile.empty() && !CheckOutputFile(o.pdfFile, "markup")) return 1;
     int status = 0;
     if (!o.pngFile.empty()) status = RenderPng(o);
     if (status == 0 && !o.pdfFile.empty()) status = RenderPdf(o);

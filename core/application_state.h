@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/ports.h"
+#include "core/safe_write.h"
 #include "generators/hub.h"
 
 // Build constants: compile-time texts, not settings.
@@ -168,6 +169,9 @@ struct ApplicationState {
     GeneratorHub hub;
     // The value the random source is reseeded with ("from the clock").
     std::function<std::int32_t()> ClockSeed;
+    // How saves put their bytes on the disk; empty for the system's write (tests inject
+    // a disk that fills up).
+    ByteWriter fileWriter;
 
     // The window's side; the quiet ones until a window sets its own.
     ClipboardPort* clipboard;

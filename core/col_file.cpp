@@ -7,12 +7,15 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "core/collection.h"
 #include "core/composition.h"
 #include "typesetter/picture_files.h"
 #include "core/editing.h"
+#include "core/safe_write.h"
 #include "mathservices/utf8_text.h"
 
 namespace fs = std::filesystem;
@@ -86,7 +89,129 @@ bool TakeElement(std::string& rest, const std::string& openTag, const std::strin
 }
 
 std::string TrimFileText(const std::string& text) { return TrimBlanks(text); }
+
+// A picture name from a file as it may be written into the temp folder: printable
+// characters only, no folder, and the extension of a picture.
+bool IsPictureName(const std::string& name) {
+    if (name.empty() || name.size() > 32 || name[0] == '.') return false;
+    for (unsigned char c : name)
+        if (c < 0x20 || c == 0x7F || c == '/' || c == '\\' || c >= 0x80) return false;
+    const auto dot = name.rfind('.');
+    if (dot == std::string::npos) return false;
+    const std::string extension = Upper(name.substr(dot));
+    return extension == ".GIF" || extension == ".JPG" || extension == ".JPEG" || extension == ".PNG" ||
+           extension == ".BMP";
+}
+
+// Lands one picture of an opened file in the temp folder. A picture of the program's own
+// folder is left as it is. A copy in the temp folder that differs (a truncated one, or
+// another file's picture of that name) is replaced; the new copy takes its name only
+// when it is complete, so that a full disk never leaves half a picture in its place.
+void StorePicture(const ApplicationState& app, const std::string& name, const std::string& bytes) {
+    if (app.TempFolder.empty() || !IsPictureName(name)) return;
+    if (!FindFileIgnoringCase(app.ImageFolder, name).empty()) return;
+    std::string path = FindFileIgnoringCase(app.TempFolder, name);
+    if (path.empty()) path = (fs::path(app.TempFolder) / name).string();
+    std::error_code ec;
+    const fs::file_status there = fs::symlink_status(path, ec);
+    if (fs::exists(there)) {
+        // Only a plain file of ours is replaced; a link or anything else stays untouched.
+        if (!fs::is_regular_file(there)) return;
+        const auto size = fs::file_size(path, ec);
+        std::string old;
+        if (!ec && size == bytes.size() && ReadWholeFile(path, old) && old == bytes) return;
+    }
+    fs::create_directories(app.TempFolder, ec);
+    WriteFileSafely(path, bytes, app.fileWriter);
+}
+
+enum class OpenResult { Read, CannotOpen, Bad };
+
+// The bytes of a collection file. Only a regular file of at most kMaxFileBytes is read: a
+// pipe would wait for ever and a device could feed bytes without end. Opened without
+// blocking, so that a pipe is refused rather than waited on. errno tells why on CannotOpen.
+OpenResult ReadCollectionBytes(const std::string& path, std::string& bytes) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) return OpenResult::CannotOpen;
+    struct stat st {};
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size < 0 ||
+        static_cast<unsigned long long>(st.st_size) > kMaxFileBytes) {
+        ::close(fd);
+        return OpenResult::Bad;
+    }
+    bytes.clear();
+    bytes.resize(static_cast<std::size_t>(st.st_size));
+    std::size_t done = 0;
+    // A file that grows while it is read is taken up to the size it had.
+    while (done < bytes.size()) {
+        const ssize_t n = ::read(fd, bytes.data() + done, bytes.size() - done);
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) {
+            const int e = errno;
+            ::close(fd);
+            errno = e;
+            return OpenResult::CannotOpen;
+        }
+        if (n == 0) break;
+        done += static_cast<std::size_t>(n);
+    }
+    ::close(fd);
+    bytes.resize(done);
+    return OpenResult::Read;
+}
 } // namespace
+
+namespace {
+// The names of the file's own tags, each followed by "(" or ")" in a file; and "#PRO"
+// followed by three digits and one of the two, the mark of a problem element.
+constexpr const char* kFileTagNames[] = {"CABECERA", "PROPARAM", "TITULO", "POSNUMPAG", "COLRESPRO", "ORDENA",
+                                         "PAGINI",   "POSSOL",   "PROPRE", "PROSUF",    "PROINI",    "BINDIR",
+                                         "ENU",      "SOL"};
+
+constexpr std::size_t kLongestFileTag = 11;  // "#POSNUMPAG)"
+
+bool IsBracket(char c) { return c == '(' || c == ')'; }
+
+// The last '#' among the final characters, where a tag that ends the text would begin.
+std::size_t LastHashOfATag(const std::string& text) {
+    const std::size_t from = text.size() > kLongestFileTag ? text.size() - kLongestFileTag : 0;
+    for (std::size_t i = text.size(); i > from; --i)
+        if (text[i - 1] == '#') return i - 1;
+    return std::string::npos;
+}
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Whether a file tag begins at the '#' at position at.
+bool FileTagAt(const std::string& text, std::size_t at) {
+    for (const char* name : kFileTagNames) {
+        const std::size_t n = std::strlen(name);
+        if (text.compare(at + 1, n, name) == 0 && at + 1 + n < text.size() && IsBracket(text[at + 1 + n])) return true;
+    }
+    return text.compare(at + 1, 3, "PRO") == 0 && at + 7 < text.size() && IsDigit(text[at + 4]) &&
+           IsDigit(text[at + 5]) && IsDigit(text[at + 6]) && IsBracket(text[at + 7]);
+}
+} // namespace
+
+std::string AsFileText(std::string text, std::size_t limit) {
+    if (text.size() > limit) {
+        std::size_t cut = limit;
+        while (cut > 0 && (static_cast<unsigned char>(text[cut]) & 0xC0) == 0x80) --cut;
+        text.resize(cut);
+    }
+    // Taking a '#' out may join a "#" before it to a tag name ("##TITULO)"), so the search
+    // steps back one place after each removal.
+    std::string out;
+    out.reserve(text.size());
+    for (char c : text) {
+        out += c;
+        while (true) {
+            const std::size_t hash = LastHashOfATag(out);
+            if (hash == std::string::npos || !FileTagAt(out, hash)) break;
+            out.erase(hash, 1);
+        }
+    }
+    return out;
+}
 
 std::string Utf8ToWindows1252(const std::string& text) {
     if (IsAscii(text)) return text;
@@ -176,8 +301,9 @@ void ReadClipboardProblem(const std::string& text, ProblemRecord& record) {
     std::string statement;
     std::string solution;
     if (SplitProblemElement(rest, statement, solution)) {
-        record.Statement = statement;
-        record.Solution = solution;
+        // Kept to what a file may hold, so that a collection with a pasted problem opens again.
+        record.Statement = AsFileText(statement, kMaxProblemTextBytes);
+        record.Solution = AsFileText(solution, kMaxProblemTextBytes);
     }
 }
 
@@ -267,44 +393,16 @@ bool SaveFile(ApplicationState& app) {
     // The new file is written whole beside the old one and only then takes its name, so
     // that a save that fails never destroys the file that was there.
     const std::string target = app.CurrentFileName;
-    const std::string temporary = target + "x";
+    const SafeWriteResult written = WriteFileSafely(target, bytes, app.fileWriter);
     int errorNumber = 0;
-    std::string description;
-    {
-        errno = 0;
-        std::FILE* out = std::fopen(temporary.c_str(), "wb");
-        if (!out) {
-            const int e = errno;
-            errorNumber = (e == EACCES || e == EPERM || e == EROFS || e == EISDIR) ? 75
-                          : (e == ENOENT || e == ENOTDIR)                          ? 76
-                                                                                   : 57;
-            description = std::strerror(e);
-        } else {
-            // Flushed to the disk before the rename, so that the new name never points at
-            // a file the system still holds only in memory.
-            bool written = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
-            written = written && std::fflush(out) == 0 && ::fsync(::fileno(out)) == 0;
-            const int e = errno;
-            const bool closed = std::fclose(out) == 0;
-            if (!written || !closed) {
-                errorNumber = e == ENOSPC ? 61 : 57;
-                description = std::strerror(e != 0 ? e : EIO);
-                std::remove(temporary.c_str());
-            }
-        }
+    if (!written.ok()) {
+        const int e = written.error;
+        errorNumber = written.writeProtected                  ? 75
+                      : (e == ENOSPC || e == EDQUOT)          ? 61
+                      : (e == ENOENT || e == ENOTDIR)         ? 76
+                                                              : 57;
     }
-    if (errorNumber == 0) {
-        std::error_code ec;
-        fs::rename(temporary, target, ec);
-        if (ec) {
-            errorNumber = (ec == std::errc::permission_denied || ec == std::errc::read_only_file_system ||
-                           ec == std::errc::is_a_directory)
-                              ? 75
-                              : 57;
-            description = ec.message();
-            std::remove(temporary.c_str());
-        }
-    }
+    const std::string& description = written.reason;
     if (errorNumber == 75) {
         app.window->ShowMessage("We are sorry, can't save the file: Write-protected. \r\nFilename: " + target +
                                     "\r\n\r\nPlease, select a different file name",
@@ -337,7 +435,16 @@ bool OpenFile(ApplicationState& app) {
     }
     app.window->SetWaitCursor(true);
     std::string file;
-    if (!ReadWholeFile(name, file)) {
+    const OpenResult opened = ReadCollectionBytes(name, file);
+    if (opened == OpenResult::CannotOpen) {
+        // The system's reason says more than "Bad file." about a file that isn't there.
+        const int e = errno;
+        app.window->SetWaitCursor(false);
+        app.window->ShowMessage("Cannot open " + name + ": " + std::strerror(e), "Error", MessageIcon::Exclamation);
+        NoColeccion(app);
+        return false;
+    }
+    if (opened == OpenResult::Bad) {
         AvisoError(app);
         return false;
     }
@@ -426,6 +533,11 @@ bool OpenFile(ApplicationState& app) {
         return false;
     }
 
+    if (values[1].size() > kMaxTitleBytes || values[7].size() > kMaxAffixBytes || values[8].size() > kMaxAffixBytes) {
+        AvisoError(app);
+        return false;
+    }
+
     const int n = app.ProblemCount();
     std::size_t from = 0;  // where the rest of the file begins
     for (int i = 1; i <= n; ++i) {
@@ -434,7 +546,8 @@ bool OpenFile(ApplicationState& app) {
         std::string statement;
         std::string solution;
         if (at == std::string::npos || at < from + 8 ||
-            !SplitProblemElement(rest.substr(from + 8, at - from - 8), statement, solution)) {
+            !SplitProblemElement(rest.substr(from + 8, at - from - 8), statement, solution) ||
+            statement.size() > kMaxProblemTextBytes || solution.size() > kMaxProblemTextBytes) {
             AvisoError(app);
             return false;
         }
@@ -444,6 +557,11 @@ bool OpenFile(ApplicationState& app) {
     }
 
     if (dir != 0) {
+        // More pictures than any collection can name is a damaged file, not work to do.
+        if (directory.size() / 48 > kMaxPictures) {
+            AvisoError(app);
+            return false;
+        }
         std::size_t offset = 0;
         std::vector<std::pair<std::string, std::string>> pictures;
         for (std::size_t e = 0; e + 48 <= directory.size(); e += 48) {
@@ -456,16 +574,7 @@ bool OpenFile(ApplicationState& app) {
             pictures.emplace_back(imageName, images.substr(offset, static_cast<std::size_t>(length)));
             offset += static_cast<std::size_t>(length);
         }
-        for (const auto& [imageName, bytes] : pictures) {
-            // A name is a plain file name; one that would reach outside the folder is not written.
-            if (imageName.empty() || imageName.find_first_of("/\\") != std::string::npos || imageName == ".." ||
-                !FindImage(app, imageName).empty() || app.TempFolder.empty())
-                continue;
-            std::error_code ec;
-            fs::create_directories(app.TempFolder, ec);
-            std::ofstream out(fs::path(app.TempFolder) / imageName, std::ios::binary);
-            out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        }
+        for (const auto& [imageName, bytes] : pictures) StorePicture(app, imageName, bytes);
     }
 
     ActualizaMenusCheckeados(app);

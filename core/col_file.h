@@ -1,8 +1,23 @@
 #pragma once
+#include <cstddef>
 #include <string>
 #include <vector>
 
 #include "core/application_state.h"
+
+// What a collection file may hold. A file beyond these is a damaged file: the largest
+// collection the program makes, 500 problems with their pictures, stays far below them.
+inline constexpr std::size_t kMaxFileBytes = 64u << 20;
+inline constexpr std::size_t kMaxTitleBytes = 1000;
+inline constexpr std::size_t kMaxAffixBytes = 1000;      // number prefix and suffix each
+inline constexpr std::size_t kMaxProblemTextBytes = 256u << 10;  // statement and solution each
+inline constexpr std::size_t kMaxPictures = 1000;         // pictures in the directory
+
+// A text as it may stand in a file: the '#' in front of any of the file's own tags is
+// taken out (the markup drops an unknown tag's '#' anyway, so nothing changes on the page),
+// and the text is cut to limit bytes at a character boundary. Used where titles, prefixes,
+// suffixes and pasted problems enter, so that whatever is saved opens again.
+std::string AsFileText(std::string text, std::size_t limit);
 
 // Program text (UTF-8) to the file's single-byte Western code page and back. A character
 // the code page lacks becomes "?".

@@ -447,19 +447,26 @@ bool Interpreter::Construct(const ConstructTag& tag, std::size_t& p) {
     st_.BoxCounter += 1;
     const int myBox = st_.BoxCounter;
     segmentCount_ += 1;
-    const ConstructHandler handler = IsBalanceError(piece) ? ErrorPieceHandler : tag.handler;
+    // Nesting beyond any real formula is not followed: the construct shows the red error
+    // and its text is passed over, so that hostile depth costs neither time nor stack.
+    const bool tooDeep = st_.ConstructDepth >= kMaxConstructDepth && !IsBalanceError(piece);
+    const std::u32string errorText = tooDeep ? BalanceErrorText(tag.open) : std::u32string();
+    const std::u32string& handled = tooDeep ? errorText : piece;
+    const ConstructHandler handler = tooDeep || IsBalanceError(piece) ? ErrorPieceHandler : tag.handler;
+    st_.ConstructDepth += 1;
     if (st_.DrawPass) {
         const double x = s_.CurrentX(), y = s_.CurrentY();
         s_.SetCurrentX(x + st_.BoxTable[myBox].lead);
         if (tag.axisAligned) s_.SetCurrentY(entryY_ + axis_ - st_.BoxTable[myBox].axis);
-        handler(st_, piece, s_, head_);
+        handler(st_, handled, s_, head_);
         s_.SetCurrentX(x + st_.BoxTable[myBox].lead + st_.BoxTable[myBox].width);
         s_.SetCurrentY(y);
     } else {
         // Only #NES hands the caller's head down; the others get a scratch string.
-        handler(st_, piece, s_, head_);
+        handler(st_, handled, s_, head_);
         segments_[segmentCount_] = st_.BoxTable[myBox];
     }
+    st_.ConstructDepth -= 1;
     s_.SetFontName(entryFontName_);
     s_.SetFontSize(fontSize_);
     p += piece.size();
@@ -500,8 +507,9 @@ std::u32string ExtractBalancedAt(const std::u32string& text, std::size_t from, c
         return BalanceErrorText(openTag);
     int depth = 1;
     std::size_t pos = first + openTag.size();
+    std::size_t close = 0;  // the next close at or behind pos, found once for many opens
     while (true) {
-        const std::size_t close = all.find(closeTag, pos);
+        if (close < pos) close = all.find(closeTag, pos);
         if (close == std::u32string_view::npos) return BalanceErrorText(openTag);
         // Only an opening tag that starts before this close counts; the search stops
         // there, so a long text after the piece is not read again for every construct.

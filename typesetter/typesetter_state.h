@@ -26,6 +26,8 @@ inline constexpr int kMaxSegments = 50;      // constructs of one string
 inline constexpr int kMaxMarks = 500;
 inline constexpr int kMaxLines = 10000;
 inline constexpr int kSymbolCount = 78;
+// Constructs inside constructs that layout follows; a deeper one shows the red error.
+inline constexpr int kMaxConstructDepth = 32;
 
 // Every table of the typesetter, made by the caller and handed to each call. A test makes
 // a fresh one; nothing of the typesetter lives anywhere else.
@@ -54,6 +56,8 @@ struct TypesetterState {
     // Set when a line asked for more boxes than the table holds: the piece being read stops,
     // in both passes at the same place, and layout goes on with the next line.
     bool BoxOverflow = false;
+    // Constructs open around the text being read now.
+    int ConstructDepth = 0;
     std::uint32_t FillColor = 0;
     std::uint32_t LineColor = 0;
 

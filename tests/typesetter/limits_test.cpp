@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 
 #include "tests/typesetter/typesetter_test_util.h"
 #include "typesetter/layout.h"
@@ -91,4 +92,37 @@ TEST_F(Limits, DeepNestingStopsAtTheBoxTable) {
     Run(nested + "&LFW");
     EXPECT_EQ(Drawn("K"), 0);
     EXPECT_EQ(Drawn("W"), 1);
+}
+
+TEST_F(Limits, DeepNestingShowsTheRedErrorAndStaysLinear) {
+    const int depth = 10000;
+    const auto start = std::chrono::steady_clock::now();
+    Run(Repeat("#SQR(", depth) + "x" + Repeat("#SQR)", depth) + "Z");
+    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    EXPECT_LT(seconds, 2.0);
+    // The innermost text lies beyond the depth followed; the error stands in its place,
+    // in red, and the text behind the construct goes on.
+    EXPECT_EQ(Drawn("x"), 0);
+    EXPECT_EQ(Drawn("Z"), 1);
+    const auto red = std::count_if(s.texts.begin(), s.texts.end(), [](const RecordingSurface::Text& t) {
+        return t.text == "E" && t.color == Rgb(255, 0, 0);
+    });
+    EXPECT_GE(red, 1);
+}
+
+TEST_F(Limits, NestingWithinTheDepthIsDrawnWhole) {
+    Run(Repeat("#SQR(", kMaxConstructDepth) + "x" + Repeat("#SQR)", kMaxConstructDepth) + "Z");
+    EXPECT_EQ(Drawn("x"), 1);
+    EXPECT_EQ(Drawn("Z"), 1);
+    EXPECT_EQ(Drawn("E"), 0);
+}
+
+TEST_F(Limits, BalancingALongConstructIsLinear) {
+    const int depth = 100000;
+    const std::u32string text = ToU32(Repeat("#SQR(", depth) + "x" + Repeat("#SQR)", depth));
+    const auto start = std::chrono::steady_clock::now();
+    const std::u32string piece = ExtractBalanced(text, U"#SQR(", U"#SQR)");
+    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    EXPECT_EQ(piece, text);
+    EXPECT_LT(seconds, 1.0);
 }

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDesktopServices>
@@ -35,6 +36,7 @@
 #include "core/collection.h"
 #include "core/composition.h"
 #include "core/editing.h"
+#include "core/safe_write.h"
 #include "generators/catalogue.h"
 #include "ui/main_window/form_splash.h"
 
@@ -1133,13 +1135,25 @@ void FormMain::PrintCommand() {
         QString target = pdfTarget;
         if (target.isEmpty()) target = fileDialog("Print to PDF file", lastPath_, QString(), true);
         if (target.isEmpty()) return;
-        QPdfWriter writer(target);
-        writer.setPageSize(QPageSize(QPageSize::A4));
-        writer.setPageMargins(QMarginsF(0, 0, 0, 0));
-        writer.setResolution(1200);
-        writer.setCreator("Sumforge");
-        writer.setTitle(QString::fromStdString(app_.Settings.Title));
-        PrintPages(writer, options);
+        // Made in memory and written whole before it takes the name, so that a full disk
+        // or a protected file never leaves a broken PDF in place of a good one.
+        QByteArray bytes;
+        {
+            QBuffer buffer(&bytes);
+            buffer.open(QIODevice::WriteOnly);
+            QPdfWriter writer(&buffer);
+            writer.setPageSize(QPageSize(QPageSize::A4));
+            writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+            writer.setResolution(1200);
+            writer.setCreator("Sumforge");
+            writer.setTitle(QString::fromStdString(app_.Settings.Title));
+            PrintPages(writer, options);
+        }
+        const SafeWriteResult written = WriteFileSafely(target.toStdString(), bytes.toStdString());
+        if (!written.ok())
+            showMessage("We are sorry, can't save the file" + QString(written.writeProtected ? ": Write-protected." : ".") +
+                            "\r\nFilename: " + target + "\r\n" + QString::fromStdString(written.reason),
+                        "", MessageIcon::Stop);
         return;
     }
     QPrinter printer(QPrinterInfo::printerInfo(printer_), QPrinter::HighResolution);

@@ -14,6 +14,7 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include "core/col_file.h"
 #include "ui/settings_pages/section_frame.h"
 
 std::vector<QColor> WizardColourTable() {
@@ -209,7 +210,7 @@ SettingsControls::SettingsControls(CollectionSettings& settings, std::vector<QCo
     TxTITULO = new QLineEdit;
     TxTITULO->setObjectName("TxTITULO");
     connect(TxTITULO, &QLineEdit::textChanged, this,
-            [this](const QString& text) { settings_.Title = text.trimmed().toStdString(); });
+            [this](const QString& text) { settings_.Title = AsFileText(text.trimmed().toStdString(), kMaxTitleBytes); });
 
     Option12 = new QRadioButton("Unsorted");
     Option12->setObjectName("Option12");
@@ -263,11 +264,11 @@ SettingsControls::SettingsControls(CollectionSettings& settings, std::vector<QCo
     TxProPre = new QLineEdit;
     TxProPre->setObjectName("TxProPre");
     connect(TxProPre, &QLineEdit::textChanged, this,
-            [this](const QString& text) { settings_.NumberPrefix = text.toStdString(); });
+            [this](const QString& text) { settings_.NumberPrefix = AsFileText(text.toStdString(), kMaxAffixBytes); });
     TxProSuf = new QLineEdit;
     TxProSuf->setObjectName("TxProSuf");
     connect(TxProSuf, &QLineEdit::textChanged, this,
-            [this](const QString& text) { settings_.NumberSuffix = text.toStdString(); });
+            [this](const QString& text) { settings_.NumberSuffix = AsFileText(text.toStdString(), kMaxAffixBytes); });
 
     Picture2 = new ColourStrip(std::move(colourTable));
     connect(Picture2, &ColourStrip::Chosen, this, [this](int index) {

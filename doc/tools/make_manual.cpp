@@ -25,14 +25,20 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextTable>
 #include <QTextStream>
 #include <QUrl>
+#include <algorithm>
 #include <cstdio>
 
 namespace {
 
-// The widest a picture is shown, in pixels of the HTML page; the PDF scales the same.
-constexpr int kPictureWidth = 640;
+// The largest a picture is shown: in pixels of the HTML page, and in points of the PDF, whose
+// text is 170 by 257 mm (482 by 728 points) on A4.
+constexpr double kHtmlPictureWidth = 640;
+constexpr double kHtmlPictureHeight = 720;
+constexpr double kPdfPictureWidth = 470;
+constexpr double kPdfPictureHeight = 600;
 
 void Fail(const QString& message) { std::fprintf(stderr, "make_manual: %s\n", qPrintable(message)); }
 
@@ -151,17 +157,27 @@ bool CopyPictures(const QString& text, const QStringList& folders, const QString
     return ok;
 }
 
-// Headings become link targets; pictures are limited to the width of the text.
+// Headings become link targets, and each chapter after the first starts a page of the PDF;
+// pictures are limited to the width of the text, and held by the document itself, since
+// printing works on a copy that looks for no files.
 void Prepare(QTextDocument& document, const QString& htmlFolder) {
     QSet<QString> used;
+    bool firstChapter = true;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() == 1) {
+            if (!firstChapter) {
+                QTextBlockFormat format;
+                format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+                QTextCursor(block).mergeBlockFormat(format);
+            }
+            firstChapter = false;
+        }
         if (block.blockFormat().headingLevel() > 0) {
             QString slug = Slug(block.text());
             for (int n = 2; used.contains(slug); ++n) slug = Slug(block.text()) + "-" + QString::number(n);
             used.insert(slug);
             QTextCursor cursor(block);
-            cursor.select(QTextCursor::BlockUnderCursor);
-            if (block.position() == 0) cursor.setPosition(block.position() + block.length() - 1, QTextCursor::KeepAnchor);
+            cursor.setPosition(block.position() + block.length() - 1, QTextCursor::KeepAnchor);
             QTextCharFormat format;
             format.setAnchor(true);
             format.setAnchorNames({slug});
@@ -170,16 +186,45 @@ void Prepare(QTextDocument& document, const QString& htmlFolder) {
         for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
             const QTextFragment piece = fragment.fragment();
             if (!piece.charFormat().isImageFormat()) continue;
+            const QString name = piece.charFormat().toImageFormat().name();
+            const QImage picture(htmlFolder + "/" + name);
+            if (!picture.isNull()) document.addResource(QTextDocument::ImageResource, QUrl(name), picture);
+        }
+    }
+}
+
+// Shows every picture at most maxWidth by maxHeight, in the units of the output (pixels of
+// the HTML page, points of the PDF), keeping its proportions.
+void LimitPictures(QTextDocument& document, double maxWidth, double maxHeight) {
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
+            const QTextFragment piece = fragment.fragment();
+            if (!piece.charFormat().isImageFormat()) continue;
             QTextImageFormat image = piece.charFormat().toImageFormat();
-            const QImage picture(htmlFolder + "/" + image.name());
-            if (picture.isNull() || picture.width() <= kPictureWidth) continue;
-            image.setWidth(kPictureWidth);
-            image.setHeight(double(kPictureWidth) * picture.height() / picture.width());
+            const QImage picture = document.resource(QTextDocument::ImageResource, QUrl(image.name())).value<QImage>();
+            if (picture.isNull()) continue;
+            const double scale = std::min({1.0, maxWidth / picture.width(), maxHeight / picture.height()});
+            image.setWidth(picture.width() * scale);
+            image.setHeight(picture.height() * scale);
             QTextCursor cursor(&document);
             cursor.setPosition(piece.position());
             cursor.setPosition(piece.position() + piece.length(), QTextCursor::KeepAnchor);
             cursor.setCharFormat(image);
         }
+    }
+}
+
+// Tables run across the width of the text, with room in their cells.
+void WidenTables(QTextDocument& document) {
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextTable* table = QTextCursor(block).currentTable();
+        if (!table || table->cellAt(0, 0).firstCursorPosition().block() != block) continue;
+        QTextTableFormat format = table->format();
+        format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+        format.setCellPadding(3);
+        format.setCellSpacing(0);
+        format.setBorderCollapse(true);
+        table->setFormat(format);
     }
 }
 
@@ -233,10 +278,13 @@ int Build(const QStringList& args) {
     document.setMetaInformation(QTextDocument::DocumentTitle, "Sumforge User's Manual");
     document.setMarkdown(text, QTextDocument::MarkdownDialectGitHub);
     Prepare(document, htmlFolder);
+    WidenTables(document);
+    LimitPictures(document, kHtmlPictureWidth, kHtmlPictureHeight);
     if (!WriteText(htmlFolder + "/index.html", PageHtml(document))) {
         Fail("cannot write " + htmlFolder + "/index.html");
         return 1;
     }
+    LimitPictures(document, kPdfPictureWidth, kPdfPictureHeight);
     if (!WritePdf(document, pdfPath)) {
         Fail("cannot write " + pdfPath);
         return 1;

@@ -3,10 +3,14 @@
 #include <map>
 
 #include "cli/cli_commands.h"
+#include "sumforge_version.h"
 
 namespace {
 void PrintUsage(std::ostream& out) {
     out << "Usage: sumforge-cli COMMAND [ARGUMENTS]\n"
+           "       sumforge-cli --help | --version\n"
+           "\n"
+           "Makes collections of mathematics exercises with their solutions, without a window.\n"
            "\n"
            "Commands:\n"
            "  catalogue               list every generator by topic\n"
@@ -16,7 +20,11 @@ void PrintUsage(std::ostream& out) {
            "  new CHOICE... [-o FILE.col] [--pdf FILE.pdf] [options]\n"
            "                          make a collection, e.g. new NRP:12x3:5 --title Practice -o p.col\n"
            "  render FILE.col [--pdf OUT.pdf] [--png DIR]\n"
-           "                          print the pages of a collection file\n";
+           "                          print the pages of a collection file\n"
+           "\n"
+           "Options of new: --title TEXT, --solutions none|after|end|page, --sorted, --shuffled,\n"
+           "  --first-problem N, --prefix TEXT, --suffix TEXT, --colour #RRGGBB, --page-numbers CODE,\n"
+           "  --first-page N, --seed N. See the man page sumforge-cli(1) and the user's manual.\n";
 }
 } // namespace
 
@@ -35,6 +43,10 @@ int main(int argc, char** argv) {
     const std::string command = argv[1];
     if (command == "help" || command == "--help" || command == "-h") {
         PrintUsage(std::cout);
+        return 0;
+    }
+    if (command == "version" || command == "--version" || command == "-V") {
+        std::cout << "sumforge-cli " << kSumforgeVersion << "\n";
         return 0;
     }
     const auto found = commands.find(command);

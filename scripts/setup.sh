@@ -3,7 +3,8 @@
 set -euo pipefail
 
 PACKAGES=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libgtest-dev
-          libbenchmark-dev fonts-liberation2 fonts-dejavu-core fonts-stix xvfb xauth poppler-utils)
+          libbenchmark-dev fonts-liberation2 fonts-dejavu-core fonts-stix xvfb xauth poppler-utils
+          desktop-file-utils appstream-util shared-mime-info)
 
 missing=()
 for p in "${PACKAGES[@]}"; do

@@ -269,13 +269,21 @@ bool ReadPictureSize(const std::string& file, double& width, double& height) {
     return true;
 }
 
-std::string ProgramPictureFolder() {
+QStringList ProgramDataFolderCandidates(const QString& programFolder) {
+    const QString p = programFolder;
+    return {p, p + "/data", p + "/../share/sumforge", p + "/../data", p + "/../../data"};
+}
+
+QString ProgramDataFolder() {
     const QString program = QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QDir::currentPath();
-    for (const QString& candidate : {program + "/img", program + "/data/img", program + "/../data/img",
-                                     program + "/../../data/img"}) {
-        if (QDir(candidate).exists()) return QDir(candidate).absolutePath().toStdString();
-    }
-    return {};
+    for (const QString& candidate : ProgramDataFolderCandidates(program))
+        if (QDir(candidate + "/img").exists()) return QDir(candidate).absolutePath();
+    return program;
+}
+
+std::string ProgramPictureFolder() {
+    const QDir folder(ProgramDataFolder() + "/img");
+    return folder.exists() ? folder.absolutePath().toStdString() : std::string();
 }
 
 void UseQtPictures(TypesetterState& state) {

@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QImage>
 #include <QPainter>
+#include <QString>
+#include <QStringList>
 #include <map>
 #include <memory>
 #include <tuple>
@@ -119,8 +121,13 @@ struct TypesetterState;
 // Gives the typesetter its picture loader and folders: "img" beside the program (or the
 // data folder of a checkout), and the per-user "temp" folder.
 void UseQtPictures(TypesetterState& state);
-// The folder of the figure pictures: "img" beside the program, or the data folder of a
-// checkout when the program runs from its build folder; empty when there is none.
+// The folders that may hold the program's own files (img/ with the figures, the subject
+// pictures, the manual), best first: beside the program, the installed share/sumforge
+// (the program in bin/), and the data folder of a build or a checkout.
+QStringList ProgramDataFolderCandidates(const QString& programFolder);
+// The first candidate that holds img/; the program's own folder when none does.
+QString ProgramDataFolder();
+// The folder of the figure pictures: img/ of ProgramDataFolder; empty when there is none.
 std::string ProgramPictureFolder();
 // Reads a picture file whole; false when it isn't a picture this system can decode.
 bool ReadPictureSize(const std::string& file, double& width, double& height);

@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFrame>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -38,6 +39,7 @@
 #include "core/editing.h"
 #include "core/safe_write.h"
 #include "generators/catalogue.h"
+#include "typesetter/qt_surface.h"
 #include "ui/main_window/form_splash.h"
 
 namespace {
@@ -362,7 +364,8 @@ void FormMain::BuildMenus() {
     }
 
     helpMenu_ = menu("mnu_Help", "&Help");
-    AddItem(helpMenu_, "mnu_Help_Manual", "User's Manual (PDF document)...", [this] { ManualCommand(); });
+    QAction* manual = AddItem(helpMenu_, "mnu_Help_Manual", "User's Manual (PDF document)...", [this] { ManualCommand(); });
+    manual->setShortcut(QKeySequence(Qt::Key_F1));
     AddItem(helpMenu_, "mnu_Ayuda_WEB", "Sumforge on the web...", [this] {
         const QString readme = QDir(ProgramFolder()).filePath("README.md");
         if (!openUrl(QUrl::fromLocalFile(readme).toString()))
@@ -542,12 +545,7 @@ void FormMain::SetPrinter(const QString& device) {
     SetToolTip(9, "Print (" + device.toStdString() + ")");
 }
 
-QString FormMain::ProgramFolder() const {
-    const QString program = QCoreApplication::applicationDirPath();
-    for (const QString& candidate : {program, program + "/data", program + "/../data", program + "/../../data"})
-        if (QDir(candidate + "/img").exists()) return QDir(candidate).absolutePath();
-    return program;
-}
+QString FormMain::ProgramFolder() const { return ProgramDataFolder(); }
 
 // ---------------------------------------------------------------- activation and end
 

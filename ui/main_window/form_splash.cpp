@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "core/application_state.h"
+#include "sumforge_version.h"
 
 FormSplash::FormSplash(const QString& title, QWidget* parent) : QDialog(parent) {
     setObjectName("FormSplash");
@@ -23,7 +24,7 @@ FormSplash::FormSplash(const QString& title, QWidget* parent) : QDialog(parent) 
     name->setFont(big);
     auto* subtitle = new QLabel("Collections of mathematics exercises, with their solutions", this);
     subtitle->setObjectName("LbSubtitle");
-    auto* version = new QLabel(QString("Version: ") + kVersionText, this);
+    auto* version = new QLabel(QString("Version: ") + kSumforgeVersion, this);
     version->setObjectName("LbVersion");
     auto* product = new QLabel(QString(kProductId), this);
     product->setObjectName("LbProduct");

@@ -19,5 +19,3 @@ protected:
 private:
     QTimer* timer1_;
 };
-
-inline constexpr const char* kVersionText = "1.0";

@@ -5,12 +5,14 @@
 #include <QFileInfo>
 
 #include "core/application_state.h"
+#include "typesetter/qt_surface.h"
 #include "ui/properties/frm_prop_col.h"
 #include "ui/wizard/frm_wizard.h"
 
 QString SubjectPictureFolder(const ApplicationState& app) {
     QStringList candidates;
     if (!app.ImageFolder.empty()) candidates << QFileInfo(QString::fromStdString(app.ImageFolder)).absolutePath();
+    candidates << ProgramDataFolder();
     QDir dir(QCoreApplication::applicationDirPath());
     for (int up = 0; up < 5; ++up) {
         candidates << dir.absolutePath() << dir.absoluteFilePath("data");

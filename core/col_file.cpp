@@ -164,9 +164,11 @@ OpenResult ReadCollectionBytes(const std::string& path, std::string& bytes) {
 namespace {
 // The names of the file's own tags, each followed by "(" or ")" in a file; and "#PRO"
 // followed by three digits and one of the two, the mark of a problem element.
+// The statement's own "#ENU(", "#SOL(" and their closers are left as they stand: the
+// reading divides a problem by the first "#SOL(" and the known lengths, and a pasted text
+// has been divided the same way already.
 constexpr const char* kFileTagNames[] = {"CABECERA", "PROPARAM", "TITULO", "POSNUMPAG", "COLRESPRO", "ORDENA",
-                                         "PAGINI",   "POSSOL",   "PROPRE", "PROSUF",    "PROINI",    "BINDIR",
-                                         "ENU",      "SOL"};
+                                         "PAGINI",   "POSSOL",   "PROPRE", "PROSUF",    "PROINI",    "BINDIR"};
 
 constexpr std::size_t kLongestFileTag = 11;  // "#POSNUMPAG)"
 

@@ -124,6 +124,10 @@ int PageRun(ApplicationState& app, std::int32_t& flow, int lastBlock, int firstP
             app.PageCount = g - 1;
             return g;
         }
+        // A block taller than a whole page would begin every following page again, up to
+        // the last page there may be: it keeps this page, cut at its foot, and the next
+        // page begins behind it.
+        if (flow < 0 && -flow == top) flow = -(top + 1);
         if (flow > 0) ++flow;
         const int reach = std::min<std::int64_t>(std::llabs(flow) - 1, app.BlockCount);
         for (int b = 1; b <= reach; ++b)

@@ -2,8 +2,10 @@
 
 #include <QGuiApplication>
 #include <QImage>
+#include <chrono>
 #include <memory>
 
+#include "core/col_file.h"
 #include "core/collection.h"
 #include "core/composition.h"
 #include "core/page_render.h"
@@ -78,4 +80,27 @@ TEST(QtPages, MeasuringWithoutPaintingFindsTheSamePages) {
         EXPECT_EQ(PagesOf(app), measured) << position;
         EXPECT_EQ(app.PageCount, pageCount) << position;
     }
+}
+
+// A statement as long as a file may hold is composed in a moment: it takes a page of its
+// own, cut at the page's foot, and the problem behind it follows on the next page.
+TEST(QtPages, LongestStatementIsComposedQuickly) {
+    EnsureGui();
+    QImage sheet(796, 1125, QImage::Format_RGB32);
+    QtSurface surface(sheet);
+    TypesetterState typesetter;
+    TypesetterMeasure measure(typesetter, surface);
+    TestBench bench;
+    bench.app.measure = &measure;
+    std::string words;
+    while (words.size() + 5 <= kMaxProblemTextBytes) words += "word ";
+    bench.SetProblems({{words, "a"}, {"short", "b"}});
+    bench.app.Settings.SolutionPosition = 0;
+    const auto start = std::chrono::steady_clock::now();
+    ComposeDocument(bench.app, true, 0);
+    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    // It took 40 seconds when the block was measured again for every page there may be.
+    EXPECT_LT(seconds, 10.0);
+    EXPECT_EQ(bench.app.PageCount, 2);
+    EXPECT_EQ(PagesOf(bench.app), (std::vector<int>{1, 2}));
 }

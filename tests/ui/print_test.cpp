@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QProcess>
@@ -254,4 +255,22 @@ TEST_F(WindowFixture, ThePdfEntryIsAlwaysOffered) {
     EXPECT_EQ(form->PrinterNames().last(), kPdfPrinterName);
     form->SetPrinter(kPdfPrinterName);
     EXPECT_EQ(form->ToolButton(9)->toolTip(), QString("Print (") + kPdfPrinterName + ")");
+}
+
+TEST_F(PrintingTest, WriteProtectedPdfFileIsKeptAndSaysWhy) {
+    MakePrintedCollection();
+    const QString file = settingsDir.filePath("kept.pdf");
+    {
+        QFile out(file);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write("the old PDF");
+    }
+    QFile::setPermissions(file, QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther);
+    messages.clear();
+    Print("", 1, false, file);
+    QFile in(file);
+    ASSERT_TRUE(in.open(QIODevice::ReadOnly));
+    EXPECT_EQ(in.readAll(), QByteArray("the old PDF"));
+    ASSERT_EQ(messages.size(), 1u);
+    EXPECT_EQ(messages[0].rfind("We are sorry, can't save the file: Write-protected.", 0), 0u) << messages[0];
 }

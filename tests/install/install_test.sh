@@ -46,19 +46,20 @@ grep -q "Sumforge $version" "$prefix/share/man/man1/sumforge-cli.1" || fail "the
 
 # The installed tool, run from a folder without any data, draws the figures from the
 # installed pictures: its pages equal those of the build's tool, and differ once the
-# pictures are gone.
+# pictures are gone. Each run has a fresh per-user folder, whose "temp" pictures (those
+# that opened collection files carry) would stand in for missing ones.
 mkdir "$work/run" && cd "$work/run"
-"$build_cli" new TRI:6x2 GDE:2x2 --seed 11 --title "Figures" -o figures.col > /dev/null
-"$prefix/bin/sumforge-cli" render figures.col --png installed --pdf installed.pdf > /dev/null
-"$build_cli" render figures.col --png built > /dev/null
-[ -s installed.pdf ] || fail "no PDF from the installed tool"
-for page in built/*.png; do
-  cmp -s "$page" "installed/$(basename "$page")" || fail "the installed tool drew $(basename "$page") otherwise"
-done
+figures=(TRI:6x2 GDE:2x2 --seed 11 --title "Figures")
+XDG_DATA_HOME="$work/user1" "$prefix/bin/sumforge-cli" new "${figures[@]}" -o installed.col --pdf installed.pdf > /dev/null
+XDG_DATA_HOME="$work/user2" "$build_cli" new "${figures[@]}" --pdf built.pdf > /dev/null
 mv "$prefix/share/sumforge/img" "$work/img-away"
-"$prefix/bin/sumforge-cli" render figures.col --png bare > /dev/null
-if cmp -s installed/page-001.png bare/page-001.png; then fail "the page is the same without the pictures"; fi
+XDG_DATA_HOME="$work/user3" "$prefix/bin/sumforge-cli" new "${figures[@]}" --pdf bare.pdf > /dev/null
 mv "$work/img-away" "$prefix/share/sumforge/img"
+for name in installed built bare; do pdftoppm -r 50 -png "$name.pdf" "$name"; done
+cmp -s installed-1.png built-1.png || fail "the installed tool drew the figures otherwise than the build's"
+if cmp -s installed-1.png bare-1.png; then fail "the page is the same without the installed pictures"; fi
+XDG_DATA_HOME="$work/user4" "$prefix/bin/sumforge-cli" render installed.col --pdf rendered.pdf > /dev/null
+[ -s rendered.pdf ] || fail "the installed tool did not render its collection"
 
 # The desktop entry, the file type and the software-centre description.
 if command -v desktop-file-validate > /dev/null; then
@@ -77,7 +78,7 @@ grep -q "^MimeType=application/x-sumforge-collection;" "$prefix/share/applicatio
 grep -q "file:///usr/share/sumforge/screenshots/main-window.png" "$prefix/share/metainfo/sumforge.metainfo.xml" ||
   fail "the description's screenshot is not the installed one"
 if command -v update-mime-database > /dev/null; then
-  update-mime-database "$prefix/share/mime" > "$work/mime.log" 2>&1 || fail "update-mime-database: $(cat "$work/mime.log")"
+  XDG_DATA_DIRS="$prefix/share" update-mime-database "$prefix/share/mime" > "$work/mime.log" 2>&1 || fail "update-mime-database: $(cat "$work/mime.log")"
   [ ! -s "$work/mime.log" ] || fail "update-mime-database: $(cat "$work/mime.log")"
   grep -q "application/x-sumforge-collection:\*\.col" "$prefix/share/mime/globs2" || fail "*.col is not a collection"
   grep -q "application/x-sumforge-collection:application-x-sumforge-collection" "$prefix/share/mime/generic-icons" \

@@ -1,11 +1,13 @@
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QScrollBar>
 
 #include "core/editing.h"
+#include "ui/main_window/form_splash.h"
 #include "tests/ui/ui_fixture.h"
 
 namespace {
@@ -408,6 +410,23 @@ TEST_F(WindowFixture, ManualThatCannotBeFoundGivesItsMessage) {
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_EQ(messages[0].rfind("Cannot find/open file ", 0), 0u);
     EXPECT_NE(messages[0].find("/Manual_SUMFORGE-RUQ7.pdf"), std::string::npos);
+}
+
+TEST_F(WindowFixture, ManualLooksForTheFileTheBuildMakesAndF1OpensIt) {
+    MakeWindow();
+    EXPECT_EQ(Item("mnu_Help_Manual")->shortcut(), QKeySequence(Qt::Key_F1));
+    Item("mnu_Help_Manual")->trigger();
+    ASSERT_EQ(messages.size(), 1u);
+    // The name the manual's build target writes, from CMake.
+    const std::string expected = std::string("/") + SUMFORGE_MANUAL_FILE;
+    EXPECT_EQ(messages[0].substr(messages[0].size() - expected.size()), expected);
+}
+
+TEST(AboutBox, ShowsTheVersionOfTheProject) {
+    FormSplash about("Tolmen - Sumforge");
+    const auto* version = about.findChild<QLabel*>("LbVersion");
+    ASSERT_NE(version, nullptr);
+    EXPECT_EQ(version->text().toStdString(), std::string("Version: ") + SUMFORGE_PROJECT_VERSION);
 }
 
 // ---------------------------------------------------------------- command line and dropping

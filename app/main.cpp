@@ -39,6 +39,8 @@ int main(int argc, char** argv) {
     ApplicationState app;
     FormSplash splash(QString::fromStdString(app.ApplicationTitle));
     splash.show();
+    // Painted now, so that it is seen while the main window loads.
+    QApplication::processEvents();
     DialogLauncher launcher;
     launcher.wizard = RunNewCollectionWizard;
     launcher.properties = RunCollectionProperties;

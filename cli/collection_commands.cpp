@@ -190,10 +190,11 @@ bool WritePdf(ApplicationState& app, const std::string& path, const char* comman
         TypesetterState typesetter;
         SetFolders(app, typesetter);
         QtSurface surface(writer);
+        surface.UsePictures(typesetter);
         typesetter.PrinterSurface = &surface;
         typesetter.PrinterInstalled = true;
         for (int page = 1; page <= app.PageCount; ++page) {
-            if (page > 1) writer.newPage();
+            if (page > 1) surface.NewPage();
             PrintOnePage(app, typesetter, surface, page);
         }
         surface.End();
@@ -211,13 +212,18 @@ bool WritePngs(ApplicationState& app, const std::string& folder, const char* com
         return false;
     }
     const int kept = app.CurrentPage;
+    // Each page on a fresh state, all drawing from one set of pictures, read once.
+    TypesetterState pictures;
+    SetFolders(app, pictures);
     for (int page = 1; page <= app.PageCount; ++page) {
         QImage image(kSheetWidth, kSheetHeight, QImage::Format_RGB32);
         image.fill(Qt::white);
         {
             TypesetterState typesetter;
             SetFolders(app, typesetter);
+            typesetter.LoadPicture = pictures.LoadPicture;
             QtSurface surface(image);
+            surface.UsePictures(typesetter);
             app.CurrentPage = page;
             DrawCurrentPage(app, typesetter, surface);
         }

@@ -52,6 +52,7 @@ int RenderPng(const MarkupOptions& o) {
         UseQtPictures(state);
         state.ZoomScale = o.zoom;
         QtSurface surface(image);
+        surface.UsePictures(state);
         state.ScreenSurface = &surface;
         double size = o.size * o.zoom;
         LayoutText(state, o.text, size, surface);
@@ -73,6 +74,7 @@ int RenderPdf(const MarkupOptions& o) {
         UseQtPictures(state);
         state.ZoomScale = 1;
         QtSurface surface(writer);
+        surface.UsePictures(state);
         state.PrinterSurface = &surface;
         state.PrinterInstalled = true;
         double size = o.size;

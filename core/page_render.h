@@ -6,8 +6,9 @@
 #include "typesetter/typesetter_state.h"
 
 // The hidden screen picture as pagination uses it: every measure and the pen are those of
-// the surface below, but text, lines and boxes are not painted, since nobody sees them.
-// Pictures still go through, so that a picture that can't be read behaves the same.
+// the surface below, but text, lines, boxes and pictures are not painted, since nobody sees
+// them. Whether a picture could be drawn changes nothing of the page's measure: only what
+// is painted in its place, and here nothing is.
 class MeasuringSurface : public DrawingSurface {
 public:
     explicit MeasuringSurface(DrawingSurface& inner) : inner_(inner) {}
@@ -39,9 +40,7 @@ public:
     void SetDrawWidth(int pixels) override { inner_.SetDrawWidth(pixels); }
     int FillStyle() const override { return inner_.FillStyle(); }
     void SetFillStyle(int style) override { inner_.SetFillStyle(style); }
-    bool PaintPicture(const std::string& file, double x, double y, double w, double h) override {
-        return inner_.PaintPicture(file, x, y, w, h);
-    }
+    bool PaintPicture(const std::string&, double, double, double, double) override { return true; }
     double Width() const override { return inner_.Width(); }
     double Height() const override { return inner_.Height(); }
     double TwipsPerPixelX() const override { return inner_.TwipsPerPixelX(); }

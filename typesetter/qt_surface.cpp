@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QStandardPaths>
 #include <QTextLayout>
@@ -55,6 +56,7 @@ void QtSurface::Begin(QPaintDevice& device) {
     reference_.setDotsPerMeterY(kTwipDotsPerMeter);
     deviceDpi_ = device.logicalDpiY();
     device_ = &device;
+    pictures_ = std::make_shared<PictureCache>();
     nameId_ = NameId(fontName_);
     painter_.begin(&device);
     painter_.setRenderHint(QPainter::Antialiasing, true);
@@ -66,7 +68,19 @@ void QtSurface::Begin(QPaintDevice& device) {
 QtSurface::~QtSurface() { End(); }
 
 void QtSurface::End() {
-    if (painter_.isActive()) painter_.end();
+    if (!painter_.isActive()) return;
+    Flush();
+    painter_.end();
+}
+
+bool QtSurface::NewPage() {
+    Flush();
+    if (screenPicture_) return false;
+    return static_cast<QPagedPaintDevice*>(device_)->newPage();
+}
+
+void QtSurface::UsePictures(const TypesetterState& state) {
+    if (const auto* loader = state.LoadPicture.target<QtPictureLoader>()) pictures_ = loader->pictures;
 }
 
 QtSurface::FontEntry& QtSurface::Current() {
@@ -89,7 +103,7 @@ QtSurface::FontEntry& QtSurface::Current() {
         // units high on a device of deviceDpi_.
         draw.setPointSizeF(measure.pointSizeF() * 1440.0 / deviceDpi_);
         auto entry = std::unique_ptr<FontEntry>(
-            new FontEntry{draw, metrics, metrics.ascent(), metrics.height(), {}, {}});
+            new FontEntry{draw, metrics, metrics.ascent(), metrics.height(), {}, {}, {}, {}});
         found = fonts_.emplace(key, std::move(entry)).first;
     }
     current_ = found->second.get();
@@ -162,38 +176,90 @@ double QtSurface::TextHeight(const std::string&) { return Current().height; }
 
 double QtSurface::Ascent() { return Current().ascent / twipsPerPixelY_; }
 
+QList<QtSurface::PlacedGlyph> QtSurface::LayOut(FontEntry& f, const QString& text) {
+    // Laid out on the device with the drawing font: positions come out in twips, the
+    // painter's unit, with the baseline at the font's ascent below the top.
+    QTextLayout layout(text, f.drawFont, device_);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    if (line.isValid()) line.setPosition(QPointF(0, 0));
+    layout.endLayout();
+    // The measured ascent decides where the baseline lies, as in the measure pass.
+    const double shift = f.ascent - (line.isValid() ? line.ascent() : f.ascent);
+    QList<PlacedGlyph> placed;
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        int face = 0;
+        while (face < f.faces.size() &&
+               !(f.faces[face].rawFont() == run.rawFont() && f.faces[face].flags() == run.flags()))
+            ++face;
+        if (face == f.faces.size()) {
+            QGlyphRun empty;
+            empty.setRawFont(run.rawFont());
+            empty.setFlags(run.flags());
+            f.faces.append(empty);
+        }
+        const QList<quint32> indexes = run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        for (qsizetype i = 0; i < indexes.size() && i < positions.size(); ++i)
+            placed.append({face, indexes[i], positions[i] + QPointF(0, shift)});
+    }
+    return placed;
+}
+
+void QtSurface::Queue(FontEntry& f, const QList<PlacedGlyph>& glyphs) {
+    if (glyphs.isEmpty()) return;
+    if (!pending_.empty() && pendingColor_ != foreColor_) Flush();
+    pendingColor_ = foreColor_;
+    for (const PlacedGlyph& g : glyphs) {
+        PendingRun* run = nullptr;
+        for (PendingRun& r : pending_)
+            if (r.font == &f && r.face == g.face) {
+                run = &r;
+                break;
+            }
+        if (!run) run = &pending_.emplace_back(PendingRun{&f, g.face, {}, {}});
+        run->indexes.append(g.index);
+        run->positions.append(QPointF(x_, y_) + g.offset);
+    }
+    // The screen picture is looked at while it is being drawn (the window yields between
+    // lines): there each text is drawn at once.
+    if (screenPicture_) Flush();
+}
+
+void QtSurface::Flush() {
+    if (pending_.empty()) return;
+    if (penColor_ != pendingColor_) {
+        painter_.setPen(ToQColor(pendingColor_));
+        penColor_ = pendingColor_;
+    }
+    for (PendingRun& r : pending_) {
+        QGlyphRun run = r.font->faces[r.face];
+        run.setGlyphIndexes(r.indexes);
+        run.setPositions(r.positions);
+        painter_.drawGlyphRun(QPointF(0, 0), run);
+    }
+    pending_.clear();
+}
+
 void QtSurface::PrintText(const std::string& text) {
     FontEntry& f = Current();
-    const QString key = ToQString(text);
-    auto found = f.runs.constFind(key);
-    if (found == f.runs.constEnd()) {
-        // Laid out on the device with the drawing font: positions come out in twips, the
-        // painter's unit, with the baseline at the font's ascent below the top.
-        QTextLayout layout(key, f.drawFont, device_);
-        QTextOption option;
-        option.setWrapMode(QTextOption::NoWrap);
-        layout.setTextOption(option);
-        layout.beginLayout();
-        QTextLine line = layout.createLine();
-        if (line.isValid()) line.setPosition(QPointF(0, 0));
-        layout.endLayout();
-        QList<QGlyphRun> runs = layout.glyphRuns();
-        // The measured ascent decides where the baseline lies, as in the measure pass.
-        const double shift = f.ascent - (line.isValid() ? line.ascent() : f.ascent);
-        for (QGlyphRun& run : runs) {
-            QList<QPointF> positions = run.positions();
-            for (QPointF& p : positions) p.ry() += shift;
-            run.setPositions(positions);
-        }
-        found = f.runs.insert(key, runs);
+    const char32_t c = SingleCodePoint(text);
+    if (c != 0) {
+        auto found = f.glyphs.constFind(c);
+        if (found == f.glyphs.constEnd()) found = f.glyphs.insert(c, LayOut(f, ToQString(text)));
+        Queue(f, *found);
+    } else if (!text.empty()) {
+        const QString key = ToQString(text);
+        auto found = f.texts.constFind(key);
+        if (found == f.texts.constEnd()) found = f.texts.insert(key, LayOut(f, key));
+        Queue(f, *found);
     }
-    if (penColor_ != foreColor_) {
-        painter_.setPen(ToQColor(foreColor_));
-        penColor_ = foreColor_;
-    }
-    for (const QGlyphRun& run : *found) painter_.drawGlyphRun(QPointF(x_, y_), run);
     const double width = TextWidth(text);
     if (underline_ || strikethru_) {
+        Flush();
         const double thickness = std::max(f.metrics.lineWidth(), 1.0);
         const QColor color = ToQColor(foreColor_);
         if (underline_) painter_.fillRect(QRectF(x_, y_ + f.ascent + f.metrics.underlinePos(), width, thickness), color);
@@ -203,6 +269,7 @@ void QtSurface::PrintText(const std::string& text) {
 }
 
 void QtSurface::Line(double x1, double y1, double x2, double y2, std::optional<std::uint32_t> color) {
+    Flush();
     QPen pen(ToQColor(color.value_or(foreColor_)));
     pen.setWidthF(drawWidth_ * twipsPerPixelX_);
     pen.setCapStyle(drawWidth_ > 1 ? Qt::RoundCap : Qt::SquareCap);
@@ -221,6 +288,7 @@ void QtSurface::Line(double x1, double y1, double x2, double y2, std::optional<s
 }
 
 void QtSurface::FilledBox(double x, double y, double dx, double dy, std::optional<std::uint32_t> color) {
+    Flush();
     QRectF box = QRectF(x, y, dx, dy).normalized();
     if (screenPicture_) {
         // Whole pixels: a box painted over part of another (the white box that ends the
@@ -238,6 +306,7 @@ void QtSurface::FilledBox(double x, double y, double dx, double dy, std::optiona
 }
 
 void QtSurface::Circle(double cx, double cy, double radius) {
+    Flush();
     QPen pen(ToQColor(foreColor_));
     pen.setWidthF(drawWidth_ * twipsPerPixelX_);
     painter_.setPen(pen);
@@ -247,9 +316,60 @@ void QtSurface::Circle(double cx, double cy, double radius) {
     painter_.setBrush(Qt::NoBrush);
 }
 
+namespace {
+// The cache's record of a file, read again when the file on disk changed.
+PictureCache::Entry& PictureEntry(PictureCache& cache, const QString& path) {
+    const QFileInfo info(path);
+    const qint64 bytes = info.exists() ? info.size() : -1;
+    const QDateTime modified = info.lastModified();
+    auto it = cache.entries.find(path);
+    if (it == cache.entries.end() || it->bytes != bytes || it->modified != modified) {
+        PictureCache::Entry entry;
+        entry.bytes = bytes;
+        entry.modified = modified;
+        if (bytes >= 0) {
+            QImageReader reader(path);
+            if (reader.canRead()) entry.size = reader.size();
+            cache.headerReads += 1;
+        } else {
+            entry.decoded = true; // nothing there to decode
+        }
+        it = cache.entries.insert(path, entry);
+    }
+    return *it;
+}
+
+const QImage& Decoded(PictureCache& cache, PictureCache::Entry& entry, const QString& path) {
+    if (!entry.decoded) {
+        QImageReader reader(path);
+        entry.picture = reader.read();
+        entry.decoded = true;
+        cache.decodes += 1;
+    }
+    return entry.picture;
+}
+} // namespace
+
+bool CachedPictureSize(PictureCache& cache, const std::string& file, double& width, double& height) {
+    const QString path = ToQString(file);
+    PictureCache::Entry& entry = PictureEntry(cache, path);
+    QSize size = entry.size;
+    if (size.isEmpty()) size = Decoded(cache, entry, path).size();
+    if (size.isEmpty()) return false;
+    width = size.width();
+    height = size.height();
+    return true;
+}
+
+const QImage& CachedPicture(PictureCache& cache, const std::string& file) {
+    const QString path = ToQString(file);
+    return Decoded(cache, PictureEntry(cache, path), path);
+}
+
 bool QtSurface::PaintPicture(const std::string& pictureFile, double x, double y, double width, double height) {
-    QImageReader reader(ToQString(pictureFile));
-    const QImage picture = reader.read();
+    Flush();
+    // Drawn from the one decoded copy: a PDF then holds each picture once.
+    const QImage& picture = CachedPicture(*pictures_, pictureFile);
     if (picture.isNull()) return false;
     painter_.save();
     // A negative width or height mirrors the picture, as the rectangle runs backwards.
@@ -260,13 +380,18 @@ bool QtSurface::PaintPicture(const std::string& pictureFile, double x, double y,
     return true;
 }
 
+bool QtPictureLoader::operator()(const std::string& file, double& width, double& height) const {
+    return CachedPictureSize(*pictures, file, width, height);
+}
+
+PictureCache* StatePictures(const TypesetterState& state) {
+    const auto* loader = state.LoadPicture.target<QtPictureLoader>();
+    return loader ? loader->pictures.get() : nullptr;
+}
+
 bool ReadPictureSize(const std::string& file, double& width, double& height) {
-    QImageReader reader(ToQString(file));
-    const QImage picture = reader.read();
-    if (picture.isNull()) return false;
-    width = picture.width();
-    height = picture.height();
-    return true;
+    PictureCache once;
+    return CachedPictureSize(once, file, width, height);
 }
 
 QStringList ProgramDataFolderCandidates(const QString& programFolder) {
@@ -287,7 +412,7 @@ std::string ProgramPictureFolder() {
 }
 
 void UseQtPictures(TypesetterState& state) {
-    state.LoadPicture = ReadPictureSize;
+    state.LoadPicture = QtPictureLoader{std::make_shared<PictureCache>()};
     state.PictureFolder = ProgramPictureFolder();
     const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     state.TempPictureFolder = data.isEmpty() ? std::string() : (data + "/temp").toStdString();

@@ -1,5 +1,6 @@
 #pragma once
 #include <QColor>
+#include <QDateTime>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGlyphRun>
@@ -9,6 +10,8 @@
 #include <QPainter>
 #include <QString>
 #include <QStringList>
+#include <QRawFont>
+#include <QSize>
 #include <map>
 #include <memory>
 #include <tuple>
@@ -17,6 +20,37 @@
 #include "typesetter/drawing_surface.h"
 
 class QPagedPaintDevice;
+struct TypesetterState;
+
+// The pictures of one typesetter state. The size of a file comes from its header; the
+// picture is decoded when it is first drawn and kept, one copy per file, so that a picture
+// that a hundred problems show is read once and a PDF holds it once. A file that changes
+// (another size or time on disk) is read again.
+struct PictureCache {
+    struct Entry {
+        qint64 bytes = -1;
+        QDateTime modified;
+        QSize size;          // from the header; invalid when the header says nothing
+        bool decoded = false; // picture holds the decoding, null when it failed
+        QImage picture;
+    };
+    QHash<QString, Entry> entries;
+    int headerReads = 0; // files opened for their size
+    int decodes = 0;     // files decoded whole
+};
+// The picture loader that UseQtPictures gives a typesetter state: sizes and pictures come
+// from its cache, which the state's surfaces share (QtSurface::UsePictures).
+struct QtPictureLoader {
+    std::shared_ptr<PictureCache> pictures;
+    bool operator()(const std::string& file, double& width, double& height) const;
+};
+// The cache of a state's loader, null when the state has another loader.
+PictureCache* StatePictures(const TypesetterState& state);
+// The size of a picture file in pixels, by its header (decoding it only when the header
+// doesn't say); false when it can't be read as a picture.
+bool CachedPictureSize(PictureCache& cache, const std::string& file, double& width, double& height);
+// The decoded picture, read once; null when the file can't be decoded.
+const QImage& CachedPicture(PictureCache& cache, const std::string& file);
 
 // The one drawing surface of the program, over a QPainter on a QImage (the screen picture,
 // 15 twips per pixel), a QPrinter or a QPdfWriter. The painter works in twips. Text is
@@ -33,6 +67,12 @@ public:
     QPainter& Painter() { return painter_; }
     // Ends the painter (before a QPdfWriter or QPrinter is destroyed).
     void End();
+    // The next sheet of a printer or PDF. Text waits to be drawn in runs, so the next sheet
+    // must be asked for here, not of the device; false on the screen picture.
+    bool NewPage();
+    // Draws pictures from the state's cache (UseQtPictures makes it), so that they are
+    // decoded once for all the surfaces of that state. Without it the surface keeps its own.
+    void UsePictures(const TypesetterState& state);
 
     std::string FontName() const override { return fontName_; }
     void SetFontName(const std::string& name) override;
@@ -81,16 +121,39 @@ public:
     static QColor ToQColor(std::uint32_t color);
 
 private:
+    // One glyph of a laid-out text: which of the font's faces, its index there, and its
+    // place from the top left of the text, twips.
+    struct PlacedGlyph {
+        int face;
+        quint32 index;
+        QPointF offset;
+    };
     struct FontEntry {
         QFont drawFont;
         QFontMetricsF metrics;
         double ascent; // twips
         double height; // twips
         QHash<char32_t, double> widths;
-        QHash<QString, QList<QGlyphRun>> runs; // laid out once, drawn many times
+        // Faces that the glyphs come from (the font and its fallbacks), as empty runs that
+        // carry the face and the run's flags.
+        QList<QGlyphRun> faces;
+        // Laid out once, drawn many times: by code point, and longer texts by their text.
+        QHash<char32_t, QList<PlacedGlyph>> glyphs;
+        QHash<QString, QList<PlacedGlyph>> texts;
+    };
+    // Glyphs printed but not yet drawn: consecutive text of one colour is drawn as one run
+    // per face, and any other drawing first draws what waits, so the order stays.
+    struct PendingRun {
+        FontEntry* font;
+        int face;
+        QList<quint32> indexes;
+        QList<QPointF> positions;
     };
     FontEntry& Current();
     void Begin(QPaintDevice& device);
+    QList<PlacedGlyph> LayOut(FontEntry& f, const QString& text);
+    void Queue(FontEntry& f, const QList<PlacedGlyph>& glyphs);
+    void Flush();
 
     QPainter painter_;
     QPaintDevice* device_ = nullptr;
@@ -115,11 +178,14 @@ private:
     using FontKey = std::tuple<int, double, int>;
     std::map<FontKey, std::unique_ptr<FontEntry>> fonts_;
     FontEntry* current_ = nullptr;
+    std::vector<PendingRun> pending_;
+    std::uint32_t pendingColor_ = 0;
+    std::shared_ptr<PictureCache> pictures_;
 };
 
-struct TypesetterState;
-// Gives the typesetter its picture loader and folders: "img" beside the program (or the
-// data folder of a checkout), and the per-user "temp" folder.
+// Gives the typesetter its picture loader, with the cache its surfaces draw from, and its
+// folders: "img" beside the program (or the data folder of a checkout), and the per-user
+// "temp" folder.
 void UseQtPictures(TypesetterState& state);
 // The folders that may hold the program's own files (img/ with the figures, the subject
 // pictures, the manual), best first: beside the program, the installed share/sumforge
@@ -129,5 +195,6 @@ QStringList ProgramDataFolderCandidates(const QString& programFolder);
 QString ProgramDataFolder();
 // The folder of the figure pictures: img/ of ProgramDataFolder; empty when there is none.
 std::string ProgramPictureFolder();
-// Reads a picture file whole; false when it isn't a picture this system can decode.
+// The size of a picture file, by its header when it has one, without a cache; false when
+// it isn't a picture this system can read.
 bool ReadPictureSize(const std::string& file, double& width, double& height);

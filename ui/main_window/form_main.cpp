@@ -739,6 +739,7 @@ void FormMain::DrawCurrentPage() {
     app_.ZoomScale = zoom * ratio;
     {
         QtSurface surface(image);
+        surface.UsePictures(typesetter_);
         typesetter_.ScreenSurface = &surface;
         ::DrawCurrentPage(app_, typesetter_, surface);
         typesetter_.ScreenSurface = nullptr;
@@ -1169,6 +1170,7 @@ void FormMain::PrintPages(QPagedPaintDevice& device, const PrintOptions& options
     UseQtPictures(printing);
     {
         QtSurface surface(device);
+        surface.UsePictures(printing);
         printing.PrinterSurface = &surface;
         printing.PrinterInstalled = true;
         bool first = true;
@@ -1181,7 +1183,7 @@ void FormMain::PrintPages(QPagedPaintDevice& device, const PrintOptions& options
                 for (int copy = 0; copy < inner; ++copy) {
                     DrawCurrentPage();
                     app_.ZoomScale = 1.0;
-                    if (!first) device.newPage();
+                    if (!first) surface.NewPage();
                     first = false;
                     PrintOnePage(app_, printing, surface, p);
                 }

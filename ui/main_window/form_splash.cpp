@@ -37,7 +37,9 @@ FormSplash::FormSplash(const QString& title, QWidget* parent) : QDialog(parent) 
     timer1_ = new QTimer(this);
     timer1_->setObjectName("Timer1");
     timer1_->setSingleShot(true);
-    timer1_->setInterval(400);
+    // No fixed wait: the main window shows as soon as it is loaded and the event loop runs;
+    // the picture stays only while the program is still getting ready.
+    timer1_->setInterval(0);
 }
 
 void FormSplash::paintEvent(QPaintEvent*) {

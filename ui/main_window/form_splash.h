@@ -8,7 +8,7 @@ class FormSplash : public QDialog {
     Q_OBJECT
 public:
     explicit FormSplash(const QString& title, QWidget* parent = nullptr);
-    // Started at start-up: 400 ms after loading, then the main window shows and this closes.
+    // Started at start-up: once the main window is loaded it shows and this closes.
     QTimer* Timer1() const { return timer1_; }
 
 protected:

@@ -17,6 +17,9 @@ std::string WithLeadingZero(std::string text) {
 }
 
 bool SqrtIsWhole(double x) { return IsWhole(std::sqrt(x)); }
+
+// True when a is n·pi/d to within the rounding of a few operations on doubles.
+bool IsPiMultiple(double a, double n, double d) { return std::fabs(n * kPi / d - a) <= 1e-10 * a; }
 } // namespace
 
 std::string ReplaceAll(std::string text, const std::string& what, const std::string& with) {
@@ -137,7 +140,10 @@ std::string NumberToExactMarkup(MathWorkspace& ws, double x) {
         FindFraction(ws, a, n1, d1);
         FindFraction(ws, a / kPi, n2, d2);
         FindFraction(ws, a * a, n3, d3);
-        if (n2 + d2 < 180 && IsWhole(n2) && n2 != 0) {
+        // The fraction search accepts anything within 10^-6: a value such as 4·atan(1/8)
+        // would pass for 19π/120. A multiple of pi is named only when it holds to the
+        // rounding of the double, as a value built from a multiple of pi does.
+        if (n2 + d2 < 180 && IsWhole(n2) && n2 != 0 && IsPiMultiple(a, n2, d2)) {
             numText = (n2 == 1 ? "" : PlainNumberText(n2)) + "&pi";
             denText = d2 != 1 ? PlainNumberText(d2) : "";
         } else if (!((!SqrtIsWhole(n3) || !SqrtIsWhole(d3)) && n3 != 0 && IsWhole(n3) && n3 + d3 < 5000)) {
@@ -199,15 +205,17 @@ std::string RootFractionToMarkup(MathWorkspace& ws, double a, double r, double b
     r = std::fabs(r);
     const double root = Int(std::sqrt(r) + 0.1);
     if (root * root == r) return FractionToMarkup(ws, a * std::sqrt(r), b);
+    // Every square factor leaves the root, also one that does not divide b (√12 is
+    // written 2√3): a root with a square factor under it is not in its simplest form.
+    for (double d = 2; d * d <= r && d <= 100000; ++d) {
+        while (IsWhole(r / (d * d))) {
+            r /= d * d;
+            a *= d;
+        }
+    }
     const double g = Gcd(ws, a, b);
     a = std::fabs(a / g);
     b = std::fabs(b / g);
-    for (int d = 2; d <= 31; ++d) {
-        while (IsWhole(r / (d * d)) && IsWhole(b / d) && r > 0) {
-            r /= d * d;
-            b /= d;
-        }
-    }
     std::string text;
     if (a == 0) {
         text = "0";
@@ -273,8 +281,10 @@ std::string ComplexToMarkup(MathWorkspace& ws, double re, double im) {
 std::string ComplexPolarToMarkup(MathWorkspace& ws, double re, double im, int unit) {
     const double square = re * re + im * im;
     const double modulus = std::sqrt(square);
-    const std::string modulusText =
-        IsWhole(modulus) ? PlainNumberText(modulus) : "#SQR(" + PlainNumberText(square) + "#SQR)";
+    // A root modulus loses its square factors (5√2, not √50), as every printed root does.
+    const std::string modulusText = IsWhole(modulus) ? PlainNumberText(modulus)
+                                    : IsWhole(square) ? RootFractionToMarkup(ws, 1, square, 1)
+                                                      : "#SQR(" + PlainNumberText(square) + "#SQR)";
     double argument;
     if (re == 0) {
         argument = im > 0 ? kPi / 2 : 3 * kPi / 2;
@@ -288,7 +298,12 @@ std::string ComplexPolarToMarkup(MathWorkspace& ws, double re, double im, int un
     if (unit == 1) {
         argumentText = NumberToSignificantMarkup(argument * 180 / kPi, 6) + kDegree;
     } else {
-        argumentText = NumberToExactMarkup(ws, argument);
+        // The argument of whole parts is a rational multiple of pi only on the axes and the
+        // diagonals (a multiple of pi/4); any other is written as a decimal, never as a
+        // fraction of pi that is merely close to it.
+        const bool whole = IsWhole(re) && IsWhole(im);
+        const bool exact = !whole || re == 0 || im == 0 || std::fabs(re) == std::fabs(im);
+        argumentText = exact ? NumberToExactMarkup(ws, argument) : "";
         if (!Contains(argumentText, "&pi")) argumentText = NumberToSignificantMarkup(argument, 6);
         argumentText += " rad";
     }

@@ -1,5 +1,6 @@
 #include "mathservices/poly_markup.h"
 
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -67,6 +68,29 @@ std::string ListOf(MathWorkspace& ws, int dimension, const std::array<double, 3>
         out += CoordinateText(ws, values[i], texts[i]);
     }
     return out;
+}
+
+// Two of the planes a·x + b·y + c·z + d = 0 whose normals are not parallel, in the first
+// such order of (1, 2), (1, 3), (2, 3), as the rows of a brace.
+std::string LinePlanePair(MathWorkspace& ws, std::array<std::array<double, 4>, 3> planes) {
+    for (auto& q : planes) ReduceTerms(ws, q[0], q[1], q[2], q[3]);
+    auto independent = [&](int i, int j) {
+        const auto& a = planes[i];
+        const auto& b = planes[j];
+        return a[1] * b[2] - a[2] * b[1] != 0 || a[2] * b[0] - a[0] * b[2] != 0 || a[0] * b[1] - a[1] * b[0] != 0;
+    };
+    const int pairs[3][2] = {{0, 1}, {0, 2}, {1, 2}};
+    std::string rows;
+    for (const auto& pair : pairs) {
+        if (!independent(pair[0], pair[1])) continue;
+        for (int r = 0; r < 2; ++r) {
+            const auto& q = planes[pair[r]];
+            const std::string row = std::to_string(r + 1);
+            rows += "#RW" + row + "(" + LinearFormToMarkup(q[0], q[1], q[2], q[3], true) + "#RW" + row + ")";
+        }
+        break;
+    }
+    return rows;
 }
 } // namespace
 
@@ -197,22 +221,17 @@ std::string VectorFormToMarkup(MathWorkspace& ws, const LineData& line, LineForm
             return LinearFormToMarkup(a, b, 0, c, true);
         }
         // In space a line is the meeting of two planes, taken from the continuous form.
+        // Of the three planes below, the first two are parallel when v1 is 0 (a line of
+        // constant y would read the same plane twice): take the first two whose normals
+        // are independent, which always exist for a non-zero direction.
         const auto& p = line.point;
         const auto& v = line.direction;
-        std::string rows;
-        int row = 0;
-        auto addPlane = [&](double a, double b, double c, double d) {
-            ReduceTerms(ws, a, b, c, d);
-            if (a == 0 && b == 0 && c == 0) return;
-            if (row == 2) return;
-            const std::string r = std::to_string(++row);
-            rows += "#RW" + r + "(" + LinearFormToMarkup(a, b, c, d, true) + "#RW" + r + ")";
-        };
-        // v2·(x - p0) - v0·(y - p1) = 0, v2·(y - p1) - v1·(z - p2) = 0, v2·(x - p0) - v0·(z - p2) = 0
-        addPlane(v[1], -v[0], 0, -v[1] * p[0] + v[0] * p[1]);
-        addPlane(0, v[2], -v[1], -v[2] * p[1] + v[1] * p[2]);
-        addPlane(v[2], 0, -v[0], -v[2] * p[0] + v[0] * p[2]);
-        return "#NES({X#RWS(L" + rows + "#RWS)#NES)";
+        const std::array<std::array<double, 4>, 3> planes = {{
+            {v[1], -v[0], 0, -v[1] * p[0] + v[0] * p[1]},
+            {0, v[2], -v[1], -v[2] * p[1] + v[1] * p[2]},
+            {v[2], 0, -v[0], -v[2] * p[0] + v[0] * p[2]},
+        }};
+        return "#NES({X#RWS(L" + LinePlanePair(ws, planes) + "#RWS)#NES)";
     }
     case LineForm::SlopeIntercept: {
         const double vx = line.direction[0], vy = line.direction[1];

@@ -122,7 +122,8 @@ void VectorsOne(GeneratorWorkspace& ws) {
         const double dot = ux * vx + uy * vy, v2 = vx * vx + vy * vy;
         ws.Statement = "Calculate magnitude and vector projection of  " + VectorMarkup(ws, "u", ux, uy) +
                        "  in the direction of  " + VectorMarkup(ws, "v", vx, vy) + ".&LF";
-        ws.Solution = "&SP=10:Magnitude of the projection& =& " + RootFractionMarkup(ws, dot, v2, v2) +
+        // A magnitude is never negative: the length of the projection, whatever the side.
+        ws.Solution = "&SP=10:Magnitude of the projection& =& " + RootFractionMarkup(ws, std::fabs(dot), v2, v2) +
                       "     Vector projection& =& (" + FractionToMarkup(ws, dot * vx, v2) + ",& & " +
                       FractionToMarkup(ws, dot * vy, v2) + ")&LF";
         break;

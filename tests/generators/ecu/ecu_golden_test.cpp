@@ -380,7 +380,7 @@ const Golden kGolden[] = {
      "Ix&-I^4& -& 23&+Ix&-I^2& +& 76& =& 0&-I&LF&SP=5:&+Bi)&-B&+I &+Ix&-I^4& -& 7&+Ix&-I^2& -& 18& =& 0&-I"
      "&SP=43:&+Bj)&-B&+I &+Ix&-I^4& -& 52&+Ix&-I^2& +& 576& =& 0&-I&LF&SP=5:&+Bk)&-B&+I 4&+Ix&-I^4& -& 92&"
      "+Ix&-I^2& +& 304& =& 0&-I&SP=43:&+Bl)&-B&+I &+Ix&-I^4& -& 34&+Ix&-I^2& +& 225& =& 0&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+Ix&-I = ± 5;    &+Ix&-I = ± #SQR(12#SQR)&SP=50:&-I&+Bb)&-B &+Ix&-I = ± 4&LF&SP="
+     "&SP=10:&-I&+Ba)&-B &+Ix&-I = ± 5;    &+Ix&-I = ± 2#SQR(3#SQR)&SP=50:&-I&+Bb)&-B &+Ix&-I = ± 4&LF&SP="
      "10:&-I&+Bc)&-B &+Ix&-I = ± 4;    &+Ix&-I = ± #SQR(2#SQR)&SP=50:&-I&+Bd)&-B &+Ix&-I = ± 1&LF&SP=10:&-"
      "I&+Be)&-B &+Ik&-I = ± 4;    &+Ik&-I = ± 6&SP=50:&-I&+Bf)&-B &+Ix&-I = ± 4&LF&SP=10:&-I&+Bg)&-B &+Ix&"
      "-I = ± 4;    &+Ix&-I = ± 2&SP=50:&-I&+Bh)&-B &+Ix&-I = ± 2;    &+Ix&-I = ± #SQR(19#SQR)&LF&SP=10:&-I"

@@ -8,6 +8,7 @@
 #include "generators/ecu/ecu_items.h"
 #include "generators/hub.h"
 #include "mathservices/number_markup.h"
+#include "support/exact_forms.h"
 #include "support/generator_sweep.h"
 #include "support/markup_reader.h"
 
@@ -251,9 +252,95 @@ void CheckWholeSolutionsProblem(const GeneratedProblem& p, int range) {
 }
 } // namespace
 
+namespace {
+// p(v) for v = a·√r / b, times b⁴, in whole numbers: with r > 1 only an even polynomial
+// (the odd terms would leave a root behind) is checked.
+bool IsExactRoot(const std::array<long long, 5>& c, const RootFraction& v) {
+    if (v.r == 1) {
+        long long sum = 0, aPower = 1;
+        for (int k = 0; k <= 4; ++k) {
+            long long bPower = 1;
+            for (int j = 0; j < 4 - k; ++j) bPower *= v.b;
+            sum += c[k] * aPower * bPower;
+            aPower *= v.a;
+        }
+        return sum == 0;
+    }
+    if (c[1] != 0 || c[3] != 0) return false;
+    const long long t = v.a * v.a * v.r, b2 = v.b * v.b;
+    return c[4] * t * t + c[2] * t * b2 + c[0] * b2 * b2 == 0;
+}
+
+// Empty when every value of an answer "x = v;    x = ± w" is an exact root of the
+// polynomial with the whole coefficients c (c0 first) and is written in its simplest
+// form; otherwise what is wrong.
+std::string ExactRootsFault(const std::array<double, 5>& coefficients, const std::string& answer) {
+    std::array<long long, 5> c{};
+    for (int k = 0; k < 5; ++k) {
+        if (coefficients[k] != std::round(coefficients[k])) return "coefficients not whole";
+        c[k] = std::llround(coefficients[k]);
+    }
+    if (answer.find("No real solution.") != std::string::npos) return "";
+    const std::string simplest = FirstUnsimplifiedForm(answer);
+    if (!simplest.empty()) return "not in simplest form: " + simplest;
+    std::size_t from = 0;
+    while (from < answer.size()) {
+        auto end = answer.find(';', from);
+        if (end == std::string::npos) end = answer.size();
+        std::string part = answer.substr(from, end - from);
+        from = end + 1;
+        const auto eq = part.find(" = ");
+        if (eq == std::string::npos) return "no value in " + part;
+        std::string value = part.substr(eq + 3);
+        if (value.rfind("± ", 0) == 0) value.erase(0, std::string("± ").size());
+        while (!value.empty() && value.back() == ' ') value.pop_back();
+        const auto v = ReadRootFraction(value);
+        if (!v) return "not an exact value: " + value;
+        if (!IsExactRoot(c, *v)) return "not a root: " + value;
+    }
+    return "";
+}
+
+void CheckExactRoots(const GeneratedProblem& p) {
+    const auto items = StatementItems(p.statement);
+    const auto answers = SolutionItems(p.solution);
+    ASSERT_EQ(items.size(), answers.size()) << p.code;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        EXPECT_EQ(ExactRootsFault(Coefficients(SplitAtRelation(items[i])), answers[i]), "")
+            << p.code << " " << items[i] << " -> " << answers[i];
+    }
+}
+} // namespace
+
+TEST(EcuQuadratic, ExactRootCheckRefusesWrongAnswers) {
+    // x⁴ − 16x² + 48 = 0: x² = 4 or 12.
+    const std::array<double, 5> c = {48, 0, -16, 0, 1};
+    EXPECT_EQ(ExactRootsFault(c, "&+Ix&-I = ± 2;    &+Ix&-I = ± 2#SQR(3#SQR)"), "");
+    EXPECT_NE(ExactRootsFault(c, "&+Ix&-I = ± 2;    &+Ix&-I = ± #SQR(12#SQR)"), "");
+    EXPECT_NE(ExactRootsFault(c, "&+Ix&-I = ± 2;    &+Ix&-I = ± 3#SQR(3#SQR)"), "");
+    EXPECT_NE(ExactRootsFault(c, "&+Ix&-I = ± 3;    &+Ix&-I = ± 2#SQR(3#SQR)"), "");
+    // 4x² − 9 = 0 and a reduced fraction.
+    EXPECT_EQ(ExactRootsFault({-9, 0, 4, 0, 0}, "&+Ix&-I = #COC(3#N)(2#COC);    &+Ix&-I = #COC(-3#N)(2#COC)"), "");
+    EXPECT_NE(ExactRootsFault({-9, 0, 4, 0, 0}, "&+Ix&-I = #COC(6#N)(4#COC)"), "");
+    EXPECT_NE(ExactRootsFault({-9, 0, 4, 0, 0}, "&+Ix&-I = #COC(3#N)(4#COC)"), "");
+}
+
+TEST(EcuQuadratic, ReportedBiquadraticRootsAreSimplest) {
+    GeneratorHub hub;
+    for (const char* code : {"0120017455220101", "0120013804090101"}) {
+        GeneratedProblem p;
+        p.code = code;
+        hub.RunGenerator(kEcu, code, p.statement, p.solution);
+        EXPECT_EQ(p.solution.find("#SQR(12#SQR)"), std::string::npos) << code;
+        EXPECT_EQ(p.solution.find("#SQR(18#SQR)"), std::string::npos) << code;
+        CheckExactRoots(p);
+    }
+}
+
 TEST(EcuQuadratic, IncompleteQuadraticRoots) {
     SweepRoutine(kEcu, 11, 2000, [](const GeneratedProblem& p) {
         CheckPolynomialProblem(p);
+        CheckExactRoots(p);
         for (const auto& item : StatementItems(p.statement)) {
             const auto c = Coefficients(SplitAtRelation(item));
             EXPECT_NE(c[2], 0) << item;
@@ -278,7 +365,10 @@ TEST(EcuQuadratic, CompleteQuadraticRoots) {
 }
 
 TEST(EcuQuadratic, BiquadraticRoots) {
-    SweepRoutine(kEcu, 12, 2000, [](const GeneratedProblem& p) { CheckPolynomialProblem(p); });
+    SweepRoutine(kEcu, 12, 2000, [](const GeneratedProblem& p) {
+        CheckPolynomialProblem(p);
+        CheckExactRoots(p);
+    });
 }
 
 TEST(EcuQuadratic, UnknownLetterIsXOrOneOfKmtyz) {

@@ -6,10 +6,22 @@
 
 #include "ga2_test_support.h"
 #include "generators/hub.h"
+#include "support/exact_forms.h"
 #include "support/generator_sweep.h"
 
 namespace {
 constexpr double kEps = 1e-9;
+
+// Empty when the text is the exact magnitude |dot| / √v2 of a projection (whole dot and
+// v2), a non-negative a√r/b with a²·r·v2 = dot²·b²; otherwise what is wrong.
+std::string MagnitudeFault(const std::string& text, double dot, double v2) {
+    const auto f = ReadRootFraction(text);
+    if (!f) return "not an exact number: " + text;
+    if (f->a < 0) return "negative magnitude: " + text;
+    const long long d = std::llround(dot), w = std::llround(v2);
+    if (f->a * f->a * f->r * w != d * d * f->b * f->b) return "not |u·v| / |v|: " + text;
+    return "";
+}
 
 double AngleOf(const Point2& u, const Point2& v) {
     const double cosine = (u.x * v.x + u.y * v.y) / (std::hypot(u.x, u.y) * std::hypot(v.x, v.y));
@@ -75,7 +87,10 @@ TEST(Ga2Vectors, VectorsOneSweep) {
         case 5: {
             const Point2 u = given.at(0), v = given.at(1);
             const double dot = u.x * v.x + u.y * v.y, v2 = v.x * v.x + v.y * v.y;
-            EXPECT_NEAR(ReadExact(Between(p.solution, "projection& =& ", "     ")), dot / std::sqrt(v2), 1e-9);
+            // The magnitude |u·v| / |v| exactly, never negative, in its simplest form.
+            const std::string magnitude = Between(p.solution, "projection& =& ", "     ");
+            EXPECT_EQ(MagnitudeFault(magnitude, dot, v2), "") << p.code;
+            EXPECT_EQ(FirstUnsimplifiedForm(p.solution), "") << p.code;
             ASSERT_EQ(found.size(), 1u) << p.solution;
             EXPECT_NEAR(found[0].x, dot * v.x / v2, 1e-9);
             EXPECT_NEAR(found[0].y, dot * v.y / v2, 1e-9);
@@ -208,4 +223,24 @@ TEST(Ga2Vectors, GroupOfNineWalksAllTypes) {
         }
     }
     EXPECT_EQ(seen.size(), 9u);
+}
+
+TEST(Ga2Vectors, ProjectionMagnitudeCheckRefusesWrongValues) {
+    // u·v = -107, |v|² = 353: the magnitude is 107√353 / 353.
+    EXPECT_EQ(MagnitudeFault("#COC(107#SQR(353#SQR)#N)(353#COC)", -107, 353), "");
+    EXPECT_NE(MagnitudeFault("-& #COC(107#SQR(353#SQR)#N)(353#COC)", -107, 353), "");
+    EXPECT_NE(MagnitudeFault("#COC(106#SQR(353#SQR)#N)(353#COC)", -107, 353), "");
+    EXPECT_NE(MagnitudeFault("#COC(107#SQR(353#SQR)#N)(352#COC)", -107, 353), "");
+}
+
+TEST(Ga2Vectors, ReportedProjectionIsNotNegative) {
+    GeneratorHub hub;
+    std::string statement, solution;
+    hub.RunGenerator("KVOL_MATH_GA2", "0017547502010101", statement, solution);
+    const auto given = PointsIn(statement);
+    ASSERT_EQ(given.size(), 2u) << statement;
+    const Point2 u = given[0], v = given[1];
+    EXPECT_EQ(MagnitudeFault(Between(solution, "projection& =& ", "     "), u.x * v.x + u.y * v.y, v.x * v.x + v.y * v.y),
+              "")
+        << solution;
 }

@@ -45,8 +45,8 @@ const Golden kGolden[] = {
     {"0034565555050302",
      "Find the symmetric form equation of the line that passes through the point  &+IP&-I(-9&,& 0&,& 4)  a"
      "nd is perpendicular to the plane  &+I&pi&-I& :& 3&+Ix&-I& -& 2&+Iy&-I& -& 3&+Iz&-I& +& 29& =& 0  and"
-     " cuts the line  &+IL&-I:& #NES({X#RWS(L#RW1(&+Iy&-I& -& 2& =& 0#RW1)#RW2(&+Iy&-I& -& 2& =& 0#RW2)#RW"
-     "S)#NES).&LF",
+     " cuts the line  &+IL&-I:& #NES({X#RWS(L#RW1(&+Iy&-I& -& 2& =& 0#RW1)#RW2(&+Ix&-I& -& &+Iz&-I& +& 19&"
+     " =& 0#RW2)#RWS)#NES).&LF",
      "&SP=10:&+IL&-I& :& #COC(&+Ix&-I& +& 9#N)(3#COC)& =& #COC(&+Iy&-I#N)(-2#COC)& =& #COC(&+Iz&-I& -& 4#N"
      ")(-3#COC)&LF"},
     {"0038998999261010",

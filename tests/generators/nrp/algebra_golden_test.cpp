@@ -342,18 +342,18 @@ const Golden kGolden[] = {
      "&SP=10:&-I&+Ba)&-B &+I& i&-I&LF"},
     {"0360001234030101",
      "Calculate these expressions.&LF&SP=5:&+Ba)&-B  #NES(()#SQR(65#SQR)#SPB(L #T)(1&.05165 rad#SPB)#NES) "
-     " ·  #NES(()#SQR(221#SQR)#SPB(L #T)(0&.737815 rad#SPB)#NES)&SP=43:&+Bb)&-B  #NES(()#SQR(104#SQR)#SPB("
+     " ·  #NES(()#SQR(221#SQR)#SPB(L #T)(0&.737815 rad#SPB)#NES)&SP=43:&+Bb)&-B  #NES(()2#SQR(26#SQR)#SPB("
      "L #T)(101&.31°#SPB)#NES)  ·  #NES(()#SQR(122#SQR)#SPB(L #T)(5&.19443°#SPB)#NES)&LF&SP=5:&+Bc)&-B  #N"
-     "ES(()#SQR(8#SQR)#SPB(L #T)(135°#SPB)#NES)  ·  #NES(()#SQR(58#SQR)#SPB(L #T)(23&.1986°#SPB)#NES)&LF&L"
-     "F",
+     "ES(()2#SQR(2#SQR)#SPB(L #T)(135°#SPB)#NES)  ·  #NES(()#SQR(58#SQR)#SPB(L #T)(23&.1986°#SPB)#NES)&LF&"
+     "LF",
      "&SP=10:&-I&+Ba)&-B 13#SQR(85#SQR)#SPB(L #T)(1&.78947 rad#SPB)  =  -26& +& 117&+I& i&-I&SP=50:&-I&+Bb"
      ")&-B 4#SQR(793#SQR)#SPB(L #T)(106&.504°#SPB)  =  -32& +& 108&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 4#SQR(29#"
      "SQR)#SPB(L #T)(158&.199°#SPB)  =  -20& +& 8&+I& i&-I&LF"},
     {"0365174071070402",
-     "Calculate these expressions.&LF&SP=5:&+Ba)&-B  #NES(()7#SPB(L #T)(0°#SPB)#NES)  ·  #NES(()#SQR(80#SQ"
-     "R)#SPB(L #T)(333&.435°#SPB)#NES)&SP=43:&+Bb)&-B  #NES(()#SQR(5850#SQR)#SPB(L #T)(154&.44°#SPB)#NES) "
-     " :  #NES(()#SQR(117#SQR)#SPB(L #T)(56&.3099°#SPB)#NES)&LF&SP=5:&+Bc)&-B  #NES(()3#SPB(L #T)(0°#SPB)#"
-     "NES)  ·  #NES(()#SQR(45#SQR)#SPB(L #T)(63&.4349°#SPB)#NES)&SP=43:&+Bd)&-B  #NES(()#SQR(18685#SQR)#SP"
+     "Calculate these expressions.&LF&SP=5:&+Ba)&-B  #NES(()7#SPB(L #T)(0°#SPB)#NES)  ·  #NES(()4#SQR(5#SQ"
+     "R)#SPB(L #T)(333&.435°#SPB)#NES)&SP=43:&+Bb)&-B  #NES(()15#SQR(26#SQR)#SPB(L #T)(154&.44°#SPB)#NES) "
+     " :  #NES(()3#SQR(13#SQR)#SPB(L #T)(56&.3099°#SPB)#NES)&LF&SP=5:&+Bc)&-B  #NES(()3#SPB(L #T)(0°#SPB)#"
+     "NES)  ·  #NES(()3#SQR(5#SQR)#SPB(L #T)(63&.4349°#SPB)#NES)&SP=43:&+Bd)&-B  #NES(()#SQR(18685#SQR)#SP"
      "B(L #T)(2&.09992 rad#SPB)#NES)  :  #NES(()#SQR(185#SQR)#SPB(L #T)(0&.628796 rad#SPB)#NES)&LF&SP=5:&+"
      "Be)&-B  #NES(()#SQR(41#SQR)#SPB(L #T)(141&.34°#SPB)#NES)  ·  #NES(()#SQR(137#SQR)#SPB(L #T)(19&.9831"
      "°#SPB)#NES)&SP=43:&+Bf)&-B  #NES(()#SQR(13#SQR)#SPB(L #T)(303&.69°#SPB)#NES)  ·  #NES(()#SQR(58#SQR)"
@@ -377,10 +377,10 @@ const Golden kGolden[] = {
      "R(97#SQR)#SPB(L #T)(288&.113°#SPB)  =  297& -& 908&+I& i&-I&LF"},
     {"0375174071070402",
      "Calculate these expressions involving complex numbers.&LF&SP=5:&+Ba)&-B  (7& +& 8&+I& i&-I)^2&SP=29:"
-     "&+Bb)&-B  #NES(()#SQR(50#SQR)#SPB(L #T)(98&.1301°#SPB)#NES)^4&SP=53:&+Bc)&-B  #NES(()#SQR(73#SQR)#SP"
+     "&+Bb)&-B  #NES(()5#SQR(2#SQR)#SPB(L #T)(98&.1301°#SPB)#NES)^4&SP=53:&+Bc)&-B  #NES(()#SQR(73#SQR)#SP"
      "B(L #T)(20&.556°#SPB)#NES)^3&SP=76:&+Bd)&-B  (-2& +& 9&+I& i&-I)^3&LF&SP=5:&+Be)&-B  (8& -& 4&+I& i&"
-     "-I)^4&SP=29:&+Bf)&-B  #NES(()#SQR(40#SQR)#SPB(L #T)(18&.4349°#SPB)#NES)^2&SP=53:&+Bg)&-B  (2& +& 6&+"
-     "I& i&-I)^5&LF&LF",
+     "-I)^4&SP=29:&+Bf)&-B  #NES(()2#SQR(10#SQR)#SPB(L #T)(18&.4349°#SPB)#NES)^2&SP=53:&+Bg)&-B  (2& +& 6&"
+     "+I& i&-I)^5&LF&LF",
      "&SP=10:&-I&+Ba)&-B 113#SPB(L #T)(97&.6281°#SPB)  =  -15& +& 112&+I& i&-I&SP=50:&-I&+Bb)&-B 2500#SPB("
      "L #T)(32&.5204°#SPB)  =  2108& +& 1344&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 73#SQR(73#SQR)#SPB(L #T)(61&.66"
      "81°#SPB)  =  296& +& 549&+I& i&-I&SP=50:&-I&+Bd)&-B 85#SQR(85#SQR)#SPB(L #T)(307&.586°#SPB)  =  478&"
@@ -404,9 +404,9 @@ const Golden kGolden[] = {
     {"0385174071070402",
      "Calculate these expressions.&LF&SP=5:&+Ba)&-B  #RAD(#RI(3 #RI)1& +& 7&+I& i&-I#RAD)&SP=29:&+Bb)&-B  "
      "#RAD(#RI(4 #RI)-4& -& &+I& i&-I#RAD)&SP=53:&+Bc)&-B  #RAD(#RI(4 #RI)#SQR(85#SQR)#SPB(L #T)(40&.6013°"
-     "#SPB)#RAD)&SP=76:&+Bd)&-B  #RAD(#RI(3 #RI)8& +& 3&+I& i&-I#RAD)&LF&SP=5:&+Be)&-B  #RAD(#RI(5 #RI)#SQ"
-     "R(40#SQR)#SPB(L #T)(341&.565°#SPB)#RAD)&SP=29:&+Bf)&-B  #RAD(#RI(4 #RI)10& +& 11&+I& i&-I#RAD)&SP=53"
-     ":&+Bg)&-B  #RAD(#RI(4 #RI)#SQR(74#SQR)#SPB(L #T)(324&.462°#SPB)#RAD)&LF&LF",
+     "#SPB)#RAD)&SP=76:&+Bd)&-B  #RAD(#RI(3 #RI)8& +& 3&+I& i&-I#RAD)&LF&SP=5:&+Be)&-B  #RAD(#RI(5 #RI)2#S"
+     "QR(10#SQR)#SPB(L #T)(341&.565°#SPB)#RAD)&SP=29:&+Bf)&-B  #RAD(#RI(4 #RI)10& +& 11&+I& i&-I#RAD)&SP=5"
+     "3:&+Bg)&-B  #RAD(#RI(4 #RI)#SQR(74#SQR)#SPB(L #T)(324&.462°#SPB)#RAD)&LF&LF",
      "&SP=10:&-I&+Ba)&-B #RAD(#RI(6 #RI)50#RAD)#SPB(L #T)(27&.29°#SPB),   #RAD(#RI(6 #RI)50#RAD)#SPB(L #T)"
      "(147&.29°#SPB),   #RAD(#RI(6 #RI)50#RAD)#SPB(L #T)(267&.29°#SPB)&LF&SP=10:&-I&+Bb)&-B #RAD(#RI(8 #RI"
      ")17#RAD)#SPB(L #T)(48&.5091°#SPB),   #RAD(#RI(8 #RI)17#RAD)#SPB(L #T)(138&.509°#SPB),   #RAD(#RI(8 #"
@@ -424,7 +424,7 @@ const Golden kGolden[] = {
      "   #RAD(#RI(8 #RI)74#RAD)#SPB(L #T)(261&.116°#SPB),   #RAD(#RI(8 #RI)74#RAD)#SPB(L #T)(351&.116°#SPB"
      ")&LF"},
     {"0388998999011010",
-     "Calculate these expressions.&LF&SP=5:&+Ba)&-B  #RAD(#RI(3 #RI)#SQR(116#SQR)#SPB(L #T)(338&.199°#SPB)"
+     "Calculate these expressions.&LF&SP=5:&+Ba)&-B  #RAD(#RI(3 #RI)2#SQR(29#SQR)#SPB(L #T)(338&.199°#SPB)"
      "#RAD)&LF&LF",
      "&SP=10:&-I&+Ba)&-B #RAD(#RI(6 #RI)116#RAD)#SPB(L #T)(112&.733°#SPB),   #RAD(#RI(6 #RI)116#RAD)#SPB(L"
      " #T)(232&.733°#SPB),   #RAD(#RI(6 #RI)116#RAD)#SPB(L #T)(352&.733°#SPB)&LF"},

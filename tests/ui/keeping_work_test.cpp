@@ -27,8 +27,8 @@ QString PdfText(const QString& file) {
 }
 
 // Calls handler with the modal window in front, again and again until it says it has
-// handled it (or about two seconds have passed).
-void WhenModal(std::function<bool(QWidget*)> handler, int triesLeft = 100) {
+// handled it (or about a minute has passed).
+void WhenModal(std::function<bool(QWidget*)> handler, int triesLeft = 3000) {
     QTimer::singleShot(20, [handler, triesLeft] {
         QWidget* modal = QApplication::activeModalWidget();
         if (modal && handler(modal)) return;
@@ -62,7 +62,7 @@ void PrintThroughTheDialogs(FormMain& form, const QString& name, PrintRun& run) 
                 run.questions << box->text();
                 box->button(QMessageBox::Yes)->click();
                 return true;
-            }, 10);
+            }, 100);
             files->selectFile(name);
             static_cast<QDialog*>(files)->accept();
             return true;
@@ -125,6 +125,7 @@ TEST_F(KeepingWork, APdfNameGetsItsExtensionAndTheNextDialogStartsInItsFolder) {
     EXPECT_EQ(next.folder, folder);
     EXPECT_TRUE(Bytes(folder + "/second.pdf").startsWith("%PDF"));
     // The folder is remembered for the next start.
+    saveAnswer = 2;
     form->close();
     MakeWindow();
     EXPECT_EQ(form->LastPdfPath(), folder);
@@ -132,6 +133,10 @@ TEST_F(KeepingWork, APdfNameGetsItsExtensionAndTheNextDialogStartsInItsFolder) {
 
 TEST_F(KeepingWork, ANameTheDialogPassesOnWithoutExtensionGetsItToo) {
     form->NewCommand();
+    form->printDialog = [](PrintOptions& options) {
+        options.accepted = true;
+        options.pageFlags.fill(true);
+    };
     form->pdfDialog = [this](const QString&, const QString&) { return settingsDir.filePath("notes.v2"); };
     form->PrintCommand();
     EXPECT_TRUE(Bytes(settingsDir.filePath("notes.v2.pdf")).startsWith("%PDF"));

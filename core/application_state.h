@@ -71,6 +71,9 @@ struct CollectionSettings {
 struct CollectionSnapshot {
     CollectionSettings settings;
     std::vector<ProblemRecord> problems;
+    // The file the collection belonged to then: undoing a step that dropped the name
+    // brings it back.
+    std::string fileName;
     bool available = false;
 };
 

@@ -432,7 +432,14 @@ bool OpenFile(ApplicationState& app) {
     app.window->SetBusy(true);
     const std::string name = app.CurrentFileName;
     if (name.size() < 4 || Upper(name.substr(name.size() - 4)) != ".COL") {
+        // Refused, but said so, and with the menus and toolbar given back: a silent refusal
+        // left them disabled and the collection on screen could no longer be saved.
         app.CurrentFileName.clear();
+        app.window->SetBusy(false);
+        app.window->SetWaitCursor(false);
+        app.window->ShowMessage("Cannot open " + fs::path(name).filename().string() +
+                                    ": the name of a problem collection ends in \".col\".",
+                                "Error", MessageIcon::Exclamation);
         return false;
     }
     app.window->SetWaitCursor(true);

@@ -291,9 +291,15 @@ int WantedProblemCount(const ApplicationState& app) {
 void NewCollectionCommand(ApplicationState& app) {
     app.SettingsAccepted = false;
     app.Reseed();
+    const UndoHistory history = SaveHistory(app);
     SetUNDO(app, "new collection");
     app.SettingsAccepted = app.window->ShowWizard();
-    if (!app.SettingsAccepted || WantedProblemCount(app) < 1) return;
+    if (!app.SettingsAccepted || WantedProblemCount(app) < 1) {
+        // Nothing was made: the settings and the undo and redo points stay as they were.
+        app.Settings = app.UndoSnapshot.settings;
+        RestoreHistory(app, history);
+        return;
+    }
     app.ModuleNames.clear();
     Arbol_to_Var(app);
     CrearColeccion(app, 1);

@@ -11,13 +11,35 @@ std::string BlockMark(int block) {
     return std::string(3 - text.size(), '0') + text;
 }
 
+std::string PageMark(int block) {
+    // The wrapped mark "000" of block 1000 reads as "no mark met", which ended pagination
+    // one page early and dropped the last page of a 500-problem collection; repeated low
+    // marks would point back at the first blocks. Four digits keep each block its own.
+    return block >= 1000 ? std::to_string(block) : BlockMark(block);
+}
+
+std::string PlainTextMarkup(const std::string& text) {
+    std::string markup;
+    markup.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c == '#' || c == '&' || c == '_' || c == '^') markup += c;
+        markup += c;
+        // Lines are split at every "&LF" before codes are read; a harmless code between
+        // keeps a typed "&LF" on its line.
+        if (c == '&' && text.compare(i + 1, 2, "LF") == 0) markup += "&-U";
+    }
+    return markup;
+}
+
 std::string NumberBox(const CollectionSettings& settings, long long number) {
     const double colour = settings.NumberColour;
     const long long r = static_cast<long long>(settings.NumberColour) & 0xFF;
     const long long g = static_cast<long long>(std::floor(colour / 256.0)) & 0xFF;
     const long long b = static_cast<long long>(std::floor(colour / 65536.0));
     return "&BC=" + std::to_string(r) + ";" + std::to_string(g) + ";" + std::to_string(b) +
-           ":&FF=REC,20,5.5:" + settings.NumberPrefix + std::to_string(number) + settings.NumberSuffix +
+           ":&FF=REC,20,5.5:" + PlainTextMarkup(settings.NumberPrefix) + std::to_string(number) +
+           PlainTextMarkup(settings.NumberSuffix) +
            " &BC=Blanco:&FF=REC,20,5.5:";
 }
 
@@ -51,7 +73,7 @@ void ComposeDocument(ApplicationState& app, bool flag, int problem) {
         const std::string& solution = app.Problems[p].Solution;
         const std::string box = NumberBox(settings, n);
         const std::string statementText =
-            "#MARK=" + BlockMark(app.BlockCount) + "&+B" + box + "&-B& " + statement;
+            "#MARK=" + PageMark(app.BlockCount) + "&+B" + box + "&-B& " + statement;
         switch (position) {
         case 0:
             block->text = statementText + "&LF";
@@ -62,7 +84,7 @@ void ComposeDocument(ApplicationState& app, bool flag, int problem) {
             } else {
                 block->text = statementText + "&LF";
                 if (DocumentBlock* second = newBlock(-p))
-                    second->text = "#MARK=" + BlockMark(app.BlockCount) + "&+I" + solutionWord + "&-I:& " +
+                    second->text = "#MARK=" + PageMark(app.BlockCount) + "&+I" + solutionWord + "&-I:& " +
                                    solution + "&LF";
             }
             break;
@@ -90,7 +112,7 @@ void ComposeDocument(ApplicationState& app, bool flag, int problem) {
         for (std::size_t k = 1; k <= stored.size(); ++k) {
             DocumentBlock* block = newBlock(-static_cast<std::int32_t>(k));
             if (!block) break;
-            block->text = "#MARK=" + BlockMark(app.BlockCount) + stored[k - 1];
+            block->text = "#MARK=" + PageMark(app.BlockCount) + stored[k - 1];
         }
     }
     PaginateDocument(app, problem);
@@ -110,7 +132,7 @@ int PageRun(ApplicationState& app, std::int32_t& flow, int lastBlock, int firstP
         std::string text;
         for (int b = std::max(top, 1); b <= end && b <= app.BlockCount; ++b)
             if (app.Blocks[b].page == 0) text += app.Blocks[b].text;
-        if (!settings.Title.empty()) text = "&+B" + settings.Title + "&-B&LF&LF" + text;
+        if (!settings.Title.empty()) text = "&+B" + PlainTextMarkup(settings.Title) + "&-B&LF&LF" + text;
         if (settings.PagePositionCode & 8)
             text += " &LF";
         else if (settings.PagePositionCode != 0)
@@ -196,7 +218,7 @@ std::string PageBlocksText(const ApplicationState& app, int page) {
 
 std::string DrawnTitleLine(const std::string& title) {
     if (title.empty()) return "";
-    return "&+B&FN=Arial:" + title + "&FN=Times New Roman:&-B&LF&LF";
+    return "&+B&FN=Arial:" + PlainTextMarkup(title) + "&FN=Times New Roman:&-B&LF&LF";
 }
 
 long long PrintedPageNumber(const CollectionSettings& settings, int page) {

@@ -7,6 +7,13 @@
 // The mark of block b: b + 1000 cut to its last three digits ("001".."999", then "000"
 // for block 1000, and low numbers again above it).
 std::string BlockMark(int block);
+// The mark planted in front of block b on a page: its three-digit mark up to block 999,
+// the whole number from block 1000 on, so that every block of the table has its own.
+std::string PageMark(int block);
+
+// Plain text (a title, a prefix, a suffix) as markup that prints it as typed: "#", "&", "_"
+// and "^" are doubled.
+std::string PlainTextMarkup(const std::string& text);
 
 // The framed number of a problem, in the collection's colour, prefix and suffix.
 std::string NumberBox(const CollectionSettings& settings, long long number);

@@ -1,6 +1,7 @@
 #include "core/editing.h"
 
 #include <cstdlib>
+#include <filesystem>
 
 #include "core/col_file.h"
 #include "core/collection.h"
@@ -10,11 +11,13 @@ namespace {
 void SnapshotInto(const ApplicationState& app, CollectionSnapshot& snapshot) {
     snapshot.settings = app.Settings;
     snapshot.problems.assign(app.Problems.begin() + 1, app.Problems.begin() + 1 + app.ProblemCount());
+    snapshot.fileName = app.CurrentFileName;
 }
 
 void RestoreFrom(ApplicationState& app, const CollectionSnapshot& snapshot) {
     for (std::size_t i = 0; i < snapshot.problems.size() && i < static_cast<std::size_t>(kMaxProblems); ++i)
         app.Problems[i + 1] = snapshot.problems[i];
+    app.CurrentFileName = snapshot.fileName;
 }
 
 void SetUndoItem(ApplicationState& app, const std::string& caption, bool enabled) {
@@ -33,6 +36,28 @@ void SetRedoItem(ApplicationState& app, const std::string& caption, bool enabled
     app.menus->SetEnabled("mnu_Edicion_Redo", enabled);
     app.ToolEnabled[5] = enabled;
     app.RedoSnapshot.available = enabled;
+}
+
+// The empty window keeps the Edit menu while a step can be undone or redone, with only
+// those two items usable, so that deleting the last problem or undoing the first
+// collection is never a dead end.
+void OfferHistoryWhenEmpty(ApplicationState& app) {
+    const bool any = app.UndoSnapshot.available || app.RedoSnapshot.available;
+    app.menus->SetVisible("mnu_Edicion", any);
+    if (!any) return;
+    for (const char* item : {"mnu_Edicion_Cut", "mnu_Edicion_Copy", "mnu_Edicion_Paste", "mnu_Edicion_Del",
+                             "mnu_Edicion_INS", "mnu_Edicion_REGEN1"})
+        app.menus->SetEnabled(item, false);
+    for (int i = 0; i < 4; ++i) app.menus->SetEnabled("mnu_Edicion_Mover_" + std::to_string(i), false);
+    app.ToolVisible[4] = app.ToolVisible[5] = app.EditButtonsShown;
+    app.menus->ActualizarBotones();
+}
+
+// The empty window after a step that removed every problem, the step still undoable.
+void EmptyKeepingHistory(ApplicationState& app) {
+    const UndoHistory history = SaveHistory(app);
+    NoColeccion(app);
+    RestoreHistory(app, history);
 }
 
 void EndSelection(ApplicationState& app) {
@@ -68,17 +93,44 @@ void SetUNDO(ApplicationState& app, const std::string& description) {
     SetUndoItem(app, "Undo " + TrimBlanks(description), true);
 }
 
+UndoHistory SaveHistory(const ApplicationState& app) {
+    return {app.UndoSnapshot, app.RedoSnapshot, app.UndoCaption, app.RedoCaption};
+}
+
+void RestoreHistory(ApplicationState& app, const UndoHistory& history) {
+    app.UndoSnapshot = history.undo;
+    app.RedoSnapshot = history.redo;
+    SetUndoItem(app, history.undoCaption, history.undo.available);
+    SetRedoItem(app, history.redoCaption, history.redo.available);
+    if (app.ProblemCount() == 0) OfferHistoryWhenEmpty(app);
+}
+
+void ShowFileCaption(ApplicationState& app) {
+    if (app.CurrentFileName.empty())
+        app.window->SetCaption(app.ApplicationTitle);
+    else
+        app.window->SetCaption(std::filesystem::path(app.CurrentFileName).filename().string() + "  -  " +
+                               app.ApplicationTitle);
+}
+
 void UndoCommand(ApplicationState& app) {
     if (!app.UndoSnapshot.available) return;
+    const bool wasEmpty = app.ProblemCount() == 0;
     SnapshotInto(app, app.RedoSnapshot);
+    const std::string text = FromFifth(app.UndoCaption);
     app.Settings = app.UndoSnapshot.settings;
     if (app.ProblemCount() == 0) {
+        // Back to before the first collection. That step can be redone, so the window
+        // keeps the Redo item.
         NoColeccion(app);
+        SetRedoItem(app, "Redo" + text, true);
+        OfferHistoryWhenEmpty(app);
         return;
     }
     RestoreFrom(app, app.UndoSnapshot);
-    const std::string text = FromFifth(app.UndoCaption);
     ComposeDocument(app, false, 0);
+    if (wasEmpty) HayColeccion(app);
+    ShowFileCaption(app);
     SetUNDO(app, "");
     SetRedoItem(app, "Redo" + text, true);
     app.menus->ActualizarBotones();
@@ -86,10 +138,18 @@ void UndoCommand(ApplicationState& app) {
 
 void RedoCommand(ApplicationState& app) {
     if (!app.RedoSnapshot.available) return;
+    const bool wasEmpty = app.ProblemCount() == 0;
+    const CollectionSnapshot redo = app.RedoSnapshot;
     SetUNDO(app, FromFifth(app.RedoCaption));
-    app.Settings = app.RedoSnapshot.settings;
-    RestoreFrom(app, app.RedoSnapshot);
+    app.Settings = redo.settings;
+    RestoreFrom(app, redo);
+    if (app.ProblemCount() == 0) {
+        EmptyKeepingHistory(app);
+        return;
+    }
     ComposeDocument(app, false, 0);
+    if (wasEmpty) HayColeccion(app);
+    ShowFileCaption(app);
     app.menus->ActualizarBotones();
 }
 
@@ -153,7 +213,8 @@ void DeleteCommand(ApplicationState& app) {
     app.Problems[n] = ProblemRecord{};
     app.Settings.ProblemCount = n - 1;
     if (app.ProblemCount() == 0) {
-        NoColeccion(app);
+        // The empty window still offers Undo: deleting the last problem is not final.
+        EmptyKeepingHistory(app);
     } else {
         if (p > app.ProblemCount()) p = app.ProblemCount();
         ComposeDocument(app, true, p);
@@ -179,6 +240,8 @@ void CutCommand(ApplicationState& app) {
 }
 
 void PasteCommand(ApplicationState& app) {
+    // The empty window shows the Edit menu only for Undo and Redo.
+    if (app.ProblemCount() == 0) return;
     if (!app.clipboard->HasText()) return;
     if (app.ProblemCount() + 1 > kMaxProblems) return;
     const std::string text = app.clipboard->Text();
@@ -239,7 +302,11 @@ void RecreateCollectionCommand(ApplicationState& app) {
         r.VariantNumber += b;
         if (r.VariantNumber >= 900) r.VariantNumber -= 900;
     }
+    const std::string fileName = app.CurrentFileName;
     CrearColeccion(app, 0);
+    // The re-created collection is still the teacher's file, with new numbers.
+    app.CurrentFileName = fileName;
+    ShowFileCaption(app);
     app.menus->ActualizarBotones();
 }
 
@@ -262,13 +329,15 @@ void SolutionPositionCommand(ApplicationState& app, int position) {
 void CollectionPropertiesCommand(ApplicationState& app) {
     if (app.BlockCount == 0 || app.ProblemCount() == 0) return;
     app.SettingsAccepted = false;
+    const UndoHistory history = SaveHistory(app);
     SetUNDO(app, "change properties of the collection");
     app.SettingsAccepted = app.window->ShowProperties();
     if (app.SettingsAccepted) {
         ComposeDocument(app, true, 0);
         ActualizaMenusCheckeados(app);
     } else {
-        SetUNDO(app, "");
+        // Cancel changes nothing: the earlier undo and redo points stay.
+        RestoreHistory(app, history);
     }
     app.menus->ActualizarBotones();
 }

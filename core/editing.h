@@ -9,6 +9,20 @@ void SetUNDO(ApplicationState& app, const std::string& description);
 void UndoCommand(ApplicationState& app);
 void RedoCommand(ApplicationState& app);
 
+// The undo and redo points with their captions, kept across a dialog that may be cancelled
+// and across a step that empties the window.
+struct UndoHistory {
+    CollectionSnapshot undo;
+    CollectionSnapshot redo;
+    std::string undoCaption;
+    std::string redoCaption;
+};
+UndoHistory SaveHistory(const ApplicationState& app);
+// Puts the points and their items back; in the empty window the Edit menu then offers them.
+void RestoreHistory(ApplicationState& app, const UndoHistory& history);
+// The caption of the window: the file's name and the title, or the title alone.
+void ShowFileCaption(ApplicationState& app);
+
 // Moves record from to place to, shifting those between; false when nothing moved.
 bool MoverProblema(ApplicationState& app, int from, int to);
 

@@ -19,7 +19,7 @@ std::int32_t FitAllMeasure::MeasurePage(const std::string& text, double zoomScal
     while (true) {
         const auto end = plain.find("&LF", start);
         if (plain.compare(start, 5, "#MARK") == 0)
-            flow = static_cast<std::int32_t>(LeadingNumber(plain.substr(start + 6, 3)));
+            flow = static_cast<std::int32_t>(LeadingNumber(plain.substr(start + 6, 4)));
         if (end == std::string::npos) break;
         start = end + 3;
     }

@@ -125,6 +125,8 @@ void Interpreter::Run() {
                     }
                 }
                 p += 9;
+                // Blocks from 1000 on carry a four-digit mark: its digits are all the mark's.
+                while (p < len && text_[p] >= U'0' && text_[p] <= U'9') ++p;
             } else if (At(text_, p, U"##")) {
                 PlainCharacter(U'#');
                 p += 2;

@@ -284,14 +284,15 @@ TEST_F(ColFile, UnwritableTargetAsksForAnotherName) {
     }
 }
 
-TEST_F(ColFile, OtherExtensionIsRefusedSilently) {
+TEST_F(ColFile, OtherExtensionIsRefusedWithAMessageAndTheControlsBack) {
     Write(Path("x.txt"), "#CABECERA)");
     bench.app.CurrentFileName = Path("x.txt");
     EXPECT_FALSE(OpenFile(bench.app));
     EXPECT_EQ(bench.app.CurrentFileName, "");
-    EXPECT_TRUE(bench.window.messages.empty());
-    // Nothing gives the toolbar and the File menu back until the next change of state.
-    EXPECT_TRUE(bench.window.busy);
+    ASSERT_EQ(bench.window.messages.size(), 1u);
+    EXPECT_EQ(bench.window.messages[0], "Cannot open x.txt: the name of a problem collection ends in \".col\".");
+    // The toolbar and the File menu are usable again at once.
+    EXPECT_FALSE(bench.window.busy);
 }
 
 TEST_F(ColFile, MissingFileSaysTheSystemsReason) {

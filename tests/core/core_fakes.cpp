@@ -12,7 +12,7 @@ std::int32_t LineMeasure::MeasurePage(const std::string& text, double) {
     std::size_t start = 0;
     while (true) {
         const auto end = text.find("&LF", start);
-        if (text.compare(start, 5, "#MARK") == 0) flow = static_cast<std::int32_t>(LeadingNumber(text.substr(start + 6, 3)));
+        if (text.compare(start, 5, "#MARK") == 0) flow = static_cast<std::int32_t>(LeadingNumber(text.substr(start + 6, 4)));
         ++lines;
         if (lines > capacity) return -flow;
         if (end == std::string::npos) break;
@@ -51,7 +51,7 @@ void TestBench::SetProblems(const std::vector<std::pair<std::string, std::string
 void TestBench::DrawMarks() {
     app.Marks.Clear();
     for (int b = 1; b <= app.BlockCount; ++b)
-        if (app.Blocks[b].page == app.CurrentPage) app.Marks.Add(std::atoi(BlockMark(b).c_str()), b * 100.0, b * 100.0 + 90);
+        if (app.Blocks[b].page == app.CurrentPage) app.Marks.Add(std::atoi(PageMark(b).c_str()), b * 100.0, b * 100.0 + 90);
 }
 
 void TestBench::SelectProblem(int p) {

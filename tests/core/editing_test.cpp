@@ -138,20 +138,96 @@ TEST(Undo, UndoOfTheFirstNewCollectionGoesBackToNoCollection) {
     EXPECT_EQ(bench.app.ProblemCount(), 0);
     EXPECT_EQ(bench.app.BlockCount, 0);
     EXPECT_FALSE(bench.app.UndoSnapshot.available);
-    EXPECT_FALSE(bench.app.RedoSnapshot.available);
-    EXPECT_FALSE(bench.menus.visible["mnu_Edicion"]);
+    // The step can be redone: the empty window keeps the Edit menu for it.
+    EXPECT_TRUE(bench.app.RedoSnapshot.available);
+    EXPECT_EQ(bench.app.RedoCaption, "Redo new collection");
+    EXPECT_TRUE(bench.menus.visible["mnu_Edicion"]);
+    EXPECT_TRUE(bench.menus.enabled["mnu_Edicion_Redo"]);
+    EXPECT_FALSE(bench.menus.enabled["mnu_Edicion_Del"]);
+    EXPECT_FALSE(bench.menus.enabled["mnu_Edicion_Paste"]);
+    RedoCommand(bench.app);
+    EXPECT_EQ(bench.app.ProblemCount(), 3);
+    EXPECT_GT(bench.app.BlockCount, 0);
+    EXPECT_EQ(bench.app.UndoCaption, "Undo new collection");
+    // The collection is back with its whole window: File commands and the Edit menu.
+    EXPECT_TRUE(bench.menus.enabled["mnu_File_Save"]);
+    EXPECT_TRUE(bench.menus.visible["mnu_Edicion"]);
 }
 
-TEST(Editing, DeletingTheOnlyProblemCannotBeUndone) {
+TEST(Editing, DeletingTheOnlyProblemCanBeUndoneAndRedone) {
     TestBench bench;
     Create(bench, 1);
+    bench.app.CurrentFileName = "/tmp/one.col";
+    const CollectionImage before = ImageOf(bench.app);
     bench.SelectProblem(1);
     DeleteCommand(bench.app);
     EXPECT_EQ(bench.app.ProblemCount(), 0);
-    EXPECT_FALSE(bench.app.UndoSnapshot.available);
-    EXPECT_EQ(bench.app.UndoCaption, "Cannot undo");
+    EXPECT_EQ(bench.app.BlockCount, 0);
+    EXPECT_TRUE(bench.app.UndoSnapshot.available);
+    EXPECT_EQ(bench.app.UndoCaption, "Undo delete");
+    EXPECT_TRUE(bench.menus.visible["mnu_Edicion"]);
+    EXPECT_TRUE(bench.menus.enabled["mnu_Edicion_Undo"]);
+    EXPECT_FALSE(bench.menus.enabled["mnu_File_Save"]);
     UndoCommand(bench.app);
+    EXPECT_EQ(ImageOf(bench.app), before);
+    EXPECT_EQ(bench.app.CurrentFileName, "/tmp/one.col");
+    EXPECT_EQ(bench.window.caption, "one.col  -  " + bench.app.ApplicationTitle);
+    EXPECT_GT(bench.app.BlockCount, 0);
+    EXPECT_TRUE(bench.menus.enabled["mnu_File_Save"]);
+    EXPECT_EQ(bench.app.RedoCaption, "Redo delete");
+    RedoCommand(bench.app);
     EXPECT_EQ(bench.app.ProblemCount(), 0);
+    EXPECT_EQ(bench.app.UndoCaption, "Undo delete");
+    EXPECT_TRUE(bench.menus.visible["mnu_Edicion"]);
+    UndoCommand(bench.app);
+    EXPECT_EQ(ImageOf(bench.app), before);
+}
+
+TEST(Editing, PasteIntoTheEmptyWindowDoesNothing) {
+    TestBench bench;
+    Create(bench, 1);
+    bench.SelectProblem(1);
+    CutCommand(bench.app);
+    ASSERT_EQ(bench.app.ProblemCount(), 0);
+    PasteCommand(bench.app);
+    EXPECT_EQ(bench.app.ProblemCount(), 0);
+    EXPECT_EQ(bench.app.UndoCaption, "Undo delete");
+}
+
+TEST(Editing, RecreateCollectionKeepsTheFileNameAndUndoBringsBackADroppedOne) {
+    TestBench bench;
+    Create(bench, 3);
+    bench.app.CurrentFileName = "/tmp/kept.col";
+    RecreateCollectionCommand(bench.app);
+    EXPECT_EQ(bench.app.CurrentFileName, "/tmp/kept.col");
+    EXPECT_EQ(bench.window.caption, "kept.col  -  " + bench.app.ApplicationTitle);
+    // Re-creating one problem drops the name; Undo brings it back, Redo drops it again.
+    bench.SelectProblem(2);
+    RecreateProblemCommand(bench.app);
+    EXPECT_EQ(bench.app.CurrentFileName, "");
+    UndoCommand(bench.app);
+    EXPECT_EQ(bench.app.CurrentFileName, "/tmp/kept.col");
+    EXPECT_EQ(bench.window.caption, "kept.col  -  " + bench.app.ApplicationTitle);
+    RedoCommand(bench.app);
+    EXPECT_EQ(bench.app.CurrentFileName, "");
+    EXPECT_EQ(bench.window.caption, bench.app.ApplicationTitle);
+}
+
+TEST(Editing, CancelledWizardKeepsSettingsAndTheUndoPoint) {
+    TestBench bench;
+    Create(bench, 3);
+    bench.SelectProblem(2);
+    DeleteCommand(bench.app);
+    UndoCommand(bench.app);
+    const CollectionImage before = ImageOf(bench.app);
+    bench.window.wizardAccepts = false;
+    NewCollectionCommand(bench.app);
+    EXPECT_EQ(ImageOf(bench.app), before);
+    EXPECT_EQ(bench.app.UndoCaption, "Cannot undo");
+    EXPECT_EQ(bench.app.RedoCaption, "Redo delete");
+    EXPECT_TRUE(bench.app.RedoSnapshot.available);
+    RedoCommand(bench.app);
+    EXPECT_EQ(bench.app.ProblemCount(), 2);
 }
 
 TEST(Editing, CommandsNeedExactlyOneSelectedMark) {
@@ -350,12 +426,28 @@ TEST(Editing, SolutionPositionChecksItsItemAndIgnoresTheSame) {
     EXPECT_EQ(bench.app.UndoCaption, "Undo solutions after each problem");
 }
 
-TEST(Editing, CancelledPropertiesEndUndo) {
+TEST(Editing, CancelledPropertiesChangeNothingTheUndoPointIncluded) {
     TestBench bench;
-    Create(bench, 2);
+    Create(bench, 3);
+    bench.SelectProblem(2);
+    DeleteCommand(bench.app);
+    const CollectionImage before = ImageOf(bench.app);
+    const std::vector<ProblemRecord> undoRecords = bench.app.UndoSnapshot.problems;
     bench.window.propertiesAccept = false;
     CollectionPropertiesCommand(bench.app);
-    EXPECT_EQ(bench.app.UndoCaption, "Cannot undo");
+    EXPECT_EQ(ImageOf(bench.app), before);
+    EXPECT_EQ(bench.app.UndoCaption, "Undo delete");
+    EXPECT_EQ(bench.menus.captions["mnu_Edicion_Undo"], "Undo delete");
+    EXPECT_TRUE(bench.app.ToolEnabled[4]);
+    EXPECT_EQ(bench.app.UndoSnapshot.problems, undoRecords);
+    UndoCommand(bench.app);
+    EXPECT_EQ(bench.app.ProblemCount(), 3);
+    // A redo point survives a cancelled dialog as well.
+    bench.window.propertiesAccept = false;
+    CollectionPropertiesCommand(bench.app);
+    EXPECT_EQ(bench.app.RedoCaption, "Redo delete");
+    RedoCommand(bench.app);
+    EXPECT_EQ(bench.app.ProblemCount(), 2);
 }
 
 TEST(Editing, EditMenuFollowsTheSelection) {

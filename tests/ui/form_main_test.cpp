@@ -87,10 +87,14 @@ TEST_F(WindowFixture, AfterNewTheCollectionIsShownWithItsMenus) {
     EXPECT_EQ(Item("cmnu_Edicion_Undo")->text(), "Undo new collection");
     EXPECT_TRUE(form->Sheet()->isVisible());
     EXPECT_FALSE(form->Sheet()->picture.isNull());
-    // Undo brings back the empty state; its redo caption names the command.
+    // Undo brings back the empty state; its redo caption names the command, and the Edit
+    // menu stays for it.
     Item("mnu_Edicion_Undo")->trigger();
     EXPECT_EQ(app->ProblemCount(), 0);
-    EXPECT_FALSE(Item("mnu_Edicion")->isVisible());
+    EXPECT_TRUE(Item("mnu_Edicion")->isVisible());
+    EXPECT_EQ(Item("mnu_Edicion_Redo")->text(), "Redo new collection");
+    Item("mnu_Edicion_Redo")->trigger();
+    EXPECT_EQ(app->ProblemCount(), 3);
 }
 
 TEST_F(WindowFixture, UndoAndRedoCaptionsFollowAnEdit) {
@@ -196,11 +200,43 @@ TEST_F(WindowFixture, DeletingTheLastProblemReturnsToTheEmptyWindow) {
     EXPECT_EQ(SelectedProblem(*app), 1);
     Item("mnu_Edicion_Del")->trigger();
     EXPECT_EQ(app->ProblemCount(), 0);
-    EXPECT_FALSE(Item("mnu_Edicion")->isVisible());
     EXPECT_FALSE(Item("mnu_File_Save")->isEnabled());
     EXPECT_EQ(form->windowTitle(), "Tolmen - Sumforge");
     EXPECT_EQ(form->PageLabel()->text(), "");
-    for (int i = 4; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i));
+    for (int i = 6; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i));
+    // The deletion can be taken back: the Edit menu stays with Undo alone usable.
+    EXPECT_TRUE(Item("mnu_Edicion")->isVisible());
+    EXPECT_FALSE(Item("mnu_Edicion_Del")->isEnabled());
+    ASSERT_TRUE(Item("mnu_Edicion_Undo")->isEnabled());
+    EXPECT_EQ(Item("mnu_Edicion_Undo")->text(), "Undo delete");
+    Item("mnu_Edicion_Undo")->trigger();
+    EXPECT_EQ(app->ProblemCount(), 1);
+    EXPECT_TRUE(Item("mnu_File_Save")->isEnabled());
+    EXPECT_TRUE(Item("mnu_File_Print")->isEnabled());
+    EXPECT_TRUE(form->Sheet()->isVisible());
+    EXPECT_EQ(form->PageLabel()->text(), "Pag. 1/1");
+}
+
+TEST_F(WindowFixture, WithTheEditingButtonsTheEmptyWindowOffersUndoAndRedo) {
+    wantedProblems = 1;
+    Settings().setValue("Ver/EdicBotones", "S");
+    MakeWindow();
+    form->NewCommand();
+    ASSERT_TRUE(ToolVisible(4));
+    form->SheetMouseMove(QPoint(5, 100));
+    const int y = static_cast<int>((app->Marks.MarkTop[0] + app->Marks.MarkBottom[0]) / 2 / 15);
+    form->SheetMouseDown(QPoint(5, y), Qt::LeftButton);
+    Item("mnu_Edicion_Cut")->trigger();
+    ASSERT_EQ(app->ProblemCount(), 0);
+    EXPECT_TRUE(ToolVisible(4) && ToolEnabled(4));
+    EXPECT_TRUE(ToolVisible(5) && !ToolEnabled(5));
+    EXPECT_FALSE(ToolVisible(6));
+    form->ToolButton(4)->click();
+    EXPECT_EQ(app->ProblemCount(), 1);
+    EXPECT_TRUE(ToolEnabled(5));
+    form->ToolButton(5)->click();
+    EXPECT_EQ(app->ProblemCount(), 0);
+    EXPECT_TRUE(ToolEnabled(4));
 }
 
 TEST_F(WindowFixture, AMarginClickSelectsInvertsAndASecondClickRestores) {

@@ -23,6 +23,8 @@ struct WindowFixture : public ::testing::Test {
     // The scripted answers and what the window asked or did.
     int saveAnswer = 0;
     int saveQuestions = 0;
+    bool replaceAnswer = true;
+    int replaceQuestions = 0;
     std::vector<std::string> messages;
     QStringList started;
     QString chosenFile;
@@ -79,6 +81,10 @@ struct WindowFixture : public ::testing::Test {
             return true;
         };
         form->fileDialog = [this](const QString&, const QString&, const QString&, bool) { return chosenFile; };
+        form->askReplace = [this](const QString&) {
+            ++replaceQuestions;
+            return replaceAnswer;
+        };
         form->openUrl = [](const QString&) { return true; };
         form->resize(1000, 800);
         form->show();

@@ -8,6 +8,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFrame>
@@ -53,6 +54,14 @@ const QColor kShadow(64, 64, 64);
 const char* kSettingsApplication = "Sumforge RUQ7";
 
 bool EndsWithCol(const QString& name) { return name.endsWith(".col", Qt::CaseInsensitive); }
+
+// A collection file by its name or by its first bytes, whatever it is called.
+bool IsCollectionFile(const QString& path) {
+    if (EndsWithCol(path)) return true;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return false;
+    return file.read(10) == "#CABECERA(";
+}
 
 // On this system a name is already long; a leading "~" is the home folder.
 QString HallaNombreLargo(const QString& name) {
@@ -173,10 +182,26 @@ FormMain::FormMain(ApplicationState& app, DialogLauncher launcher, const QString
         box.exec();
     };
     fileDialog = [this](const QString& title, const QString& folder, const QString& proposed, bool save) {
-        if (save)
-            return QFileDialog::getSaveFileName(this, title, proposed.isEmpty() ? folder : proposed,
-                                                "Problem collection (*.col);;All files (*)");
-        return QFileDialog::getOpenFileName(this, title, folder, "Problem collection  (*.col);;All files  (*)");
+        if (!save)
+            return QFileDialog::getOpenFileName(this, title, folder, "Problem collection  (*.col);;All files  (*)");
+        QFileDialog dialog(this, title, proposed.isEmpty() ? folder : proposed,
+                           "Problem collection (*.col);;All files (*)");
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setDefaultSuffix("col");
+        if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return QString();
+        return dialog.selectedFiles().first();
+    };
+    pdfDialog = [this](const QString& title, const QString& folder) {
+        QFileDialog dialog(this, title, folder, "PDF document (*.pdf)");
+        dialog.setObjectName("PdfFileDialog");
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setDefaultSuffix("pdf");
+        if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return QString();
+        return dialog.selectedFiles().first();
+    };
+    askReplace = [this](const QString& text) {
+        return QMessageBox::question(this, windowTitle(), text, QMessageBox::Yes | QMessageBox::No,
+                                     QMessageBox::No) == QMessageBox::Yes;
     };
     startProcess = [](const QString& file) {
         return QProcess::startDetached(QCoreApplication::applicationFilePath(), {file});
@@ -508,6 +533,7 @@ void FormMain::ReadSettings() {
     }
     zep04_->setVisible(any);
     lastPath_ = settings.value("LastPath/Path").toString();
+    lastPdfPath_ = settings.value("LastPath/PdfPath").toString();
 }
 
 void FormMain::WriteSettings() {
@@ -518,6 +544,7 @@ void FormMain::WriteSettings() {
         settings.setValue(QString("Reciente/Archivo%1").arg(i), recentPaths_[i]);
     }
     settings.setValue("LastPath/Path", lastPath_);
+    settings.setValue("LastPath/PdfPath", lastPdfPath_);
     settings.sync();
 }
 
@@ -565,7 +592,9 @@ void FormMain::Activated() {
 
 bool FormMain::AskSaving() {
     if (!app_.Modified) return true;
-    const int answer = askSave(QString::fromStdString("Do you want to save changes to " + app_.CurrentFileName + "?"));
+    // A collection never saved has no name to ask about.
+    const std::string name = app_.CurrentFileName.empty() ? "Untitled" : app_.CurrentFileName;
+    const int answer = askSave(QString::fromStdString("Do you want to save changes to " + name + "?"));
     if (answer == 0) return false;
     if (answer == 1) {
         SaveCommand();
@@ -702,6 +731,8 @@ void FormMain::AddRecentFile(const std::string& path) {
     }
     recent_[1]->setText(QFileInfo(name).fileName());
     recentPaths_[1] = name;
+    // Shown at once: a file just saved belongs in the list now, not after a restart.
+    recent_[1]->setVisible(true);
     zep04_->setVisible(true);
 }
 
@@ -1011,10 +1042,7 @@ void FormMain::NewCommand() {
     if (!AskSaving()) return;
     SetWaitCursor(true);
     NewCollectionCommand(app_);
-    if (!app_.SettingsAccepted || WantedProblemCount(app_) < 1) {
-        SetUNDO(app_, "");
-        ActualizarBotones();
-    }
+    if (!app_.SettingsAccepted || WantedProblemCount(app_) < 1) ActualizarBotones();
     SetWaitCursor(false);
     Geometry();
 }
@@ -1025,9 +1053,16 @@ void FormMain::OpenCommand() {
     const QString name = fileDialog("Open", folder, QString(), false);
     if (name.isEmpty()) return;
     SetWaitCursor(true);
+    const std::string kept = app_.CurrentFileName;
     app_.CurrentFileName = name.toStdString();
     lastPath_ = QFileInfo(name).absolutePath();
-    OpenFile(app_);
+    if (!OpenFile(app_) && app_.ProblemCount() > 0) {
+        // Refused: the collection on screen stays as it was, its name and undo included.
+        app_.CurrentFileName = kept;
+        ShowFileCaption(app_);
+        SetWaitCursor(false);
+        return;
+    }
     SetUNDO(app_, "");
     ActualizarBotones();
     SetWaitCursor(false);
@@ -1049,7 +1084,7 @@ void FormMain::SaveCommand() {
 void FormMain::SaveAsCommand() {
     const QString folder = lastPath_.isEmpty() ? ProgramFolder() : lastPath_;
     const QString proposed = app_.CurrentFileName.empty() ? QString() : recentPaths_[1];
-    const QString name = fileDialog("Save problem collection", folder, proposed, true);
+    const QString name = WithExtension(fileDialog("Save problem collection", folder, proposed, true), ".col");
     if (name.isEmpty()) return;
     lastPath_ = QFileInfo(name).absolutePath();
     SetWaitCursor(true);
@@ -1069,8 +1104,13 @@ void FormMain::RecentCommand(int index) {
     SetWaitCursor(true);
     const QString path = recentPaths_[index];
     if (!path.isEmpty() && QFileInfo::exists(path)) {
+        const std::string kept = app_.CurrentFileName;
         app_.CurrentFileName = path.toStdString();
-        OpenFile(app_);
+        // A file that is refused leaves the collection on screen with its own name.
+        if (!OpenFile(app_) && app_.ProblemCount() > 0) {
+            app_.CurrentFileName = kept;
+            ShowFileCaption(app_);
+        }
     } else {
         SetWaitCursor(false);
         showMessage("Error: File no exist.", windowTitle(), MessageIcon::Warning);
@@ -1132,7 +1172,7 @@ void FormMain::PrintCommand() {
     if (!options.accepted) return;
     if (printer_ == kPdfPrinterName) {
         QString target = pdfTarget;
-        if (target.isEmpty()) target = fileDialog("Print to PDF file", lastPath_, QString(), true);
+        if (target.isEmpty()) target = ChoosePdfFile();
         if (target.isEmpty()) return;
         // Made in memory and written whole before it takes the name, so that a full disk
         // or a protected file never leaves a broken PDF in place of a good one.
@@ -1159,6 +1199,40 @@ void FormMain::PrintCommand() {
     printer.setFullPage(true);
     printer.setDocName(QString::fromStdString(app_.Settings.Title));
     PrintPages(printer, options);
+}
+
+// The PDF file to print to: its own dialog, ".pdf" added when missing, never a collection.
+QString FormMain::ChoosePdfFile() {
+    const QString folder = !lastPdfPath_.isEmpty() ? lastPdfPath_ : lastPath_.isEmpty() ? ProgramFolder() : lastPath_;
+    const QString chosen = pdfDialog("Print to PDF file", folder);
+    if (chosen.isEmpty()) return QString();
+    if (IsCollectionFile(chosen)) {
+        showMessage(QFileInfo(chosen).fileName() +
+                        " is a problem collection: the PDF file is not written over it.\nPlease choose "
+                        "another name.",
+                    windowTitle(), MessageIcon::Exclamation);
+        return QString();
+    }
+    const QString name = WithExtension(chosen, ".pdf");
+    if (name.isEmpty()) return QString();
+    if (IsCollectionFile(name)) {
+        showMessage(QFileInfo(name).fileName() + " is a problem collection: the PDF file is not written over it.",
+                    windowTitle(), MessageIcon::Exclamation);
+        return QString();
+    }
+    lastPdfPath_ = QFileInfo(name).absolutePath();
+    return name;
+}
+
+// name with the extension added when it lacks it; an existing file of the longer name is
+// replaced only when the teacher says so ("" when not).
+QString FormMain::WithExtension(const QString& name, const QString& extension) {
+    if (name.isEmpty() || name.endsWith(extension, Qt::CaseInsensitive)) return name;
+    const QString full = name + extension;
+    if (QFileInfo::exists(full) &&
+        !askReplace(QFileInfo(full).fileName() + " already exists.\nDo you want to replace it?"))
+        return QString();
+    return full;
 }
 
 void FormMain::PrintPages(QPagedPaintDevice& device, const PrintOptions& options) {

@@ -84,6 +84,10 @@ public:
     std::function<bool()> askAbortBusy;
     std::function<void(const QString& text, const QString& title, MessageIcon icon)> showMessage;
     std::function<QString(const QString& title, const QString& folder, const QString& proposed, bool save)> fileDialog;
+    // The file dialog of the "PDF file" printer: its own filter and folder.
+    std::function<QString(const QString& title, const QString& folder)> pdfDialog;
+    // Whether an existing file may be replaced; text is the question.
+    std::function<bool(const QString& text)> askReplace;
     std::function<bool(const QString& file)> startProcess;
     std::function<bool(const QString& url)> openUrl;
     // The print dialog; by default frmImprimir modally.
@@ -124,6 +128,7 @@ public:
     QStringList RecentPaths() const;
     QStringList RecentTitles() const;
     QString LastPath() const { return lastPath_; }
+    QString LastPdfPath() const { return lastPdfPath_; }
     bool FirstActivation() const { return firstActivation_; }
 
     // ClipboardPort
@@ -184,6 +189,8 @@ private:
     void InvertBand(int mark);
     void ClearSelection();
     void PrintPages(QPagedPaintDevice& device, const PrintOptions& options);
+    QString ChoosePdfFile();
+    QString WithExtension(const QString& name, const QString& extension);
     QAction* AddItem(QMenu* menu, const QString& name, const QString& caption, std::function<void()> handler);
     QString ProgramFolder() const;
 
@@ -211,6 +218,7 @@ private:
     QFrame* shapeShadow_ = nullptr;
 
     QString lastPath_;
+    QString lastPdfPath_;
     QStringList pendingFiles_;
     bool firstActivation_ = true;
     bool busyUi_ = false;

@@ -193,6 +193,29 @@ TEST(Properties, CancelDropsTheUndoPoint) {
     EXPECT_EQ(b.measure.calls, measured);
 }
 
+TEST(Properties, CancelKeepsTheEarlierUndoAndRedoPoints) {
+    CollectionBench b(4);
+    SetUNDO(b.app, "delete");
+    const CollectionSnapshot undo = b.app.UndoSnapshot;
+    const CollectionSettings before = b.app.Settings;
+    const auto problems = b.app.Problems;
+    ScriptModal([](QWidget* modal) {
+        auto* d = qobject_cast<FrmPropCol*>(modal);
+        d->controls->TxTITULO->setText("Not kept");
+        d->controls->Option5->setChecked(true);
+        d->controls->TxProPre->setText("P");
+        d->CmdCancel->click();
+    });
+    CollectionPropertiesCommand(b.app);
+    EXPECT_FALSE(b.app.SettingsAccepted);
+    EXPECT_EQ(b.app.Settings, before);
+    EXPECT_EQ(b.app.Problems, problems);
+    EXPECT_TRUE(b.app.UndoSnapshot.available);
+    EXPECT_EQ(b.app.UndoCaption, "Undo delete");
+    EXPECT_EQ(b.app.UndoSnapshot.settings, undo.settings);
+    EXPECT_EQ(b.app.UndoSnapshot.problems, undo.problems);
+}
+
 TEST(Properties, NewCollectionCommandRunsTheWizardRoad) {
     CollectionBench b(2);
     ScriptModal([&](QWidget* modal) {

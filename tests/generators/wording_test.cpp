@@ -119,6 +119,17 @@ TEST(Wording, ItemLettersAreBoldAndUpright) {
     });
 }
 
+TEST(Wording, EveryTextEndsUpright) {
+    // Italic left on at the end of a statement or a solution would run on into the next
+    // problem of the page.
+    ForEveryProblem([](const GeneratedProblem& p, const std::string& where) {
+        for (const std::string* text : {&p.statement, &p.solution}) {
+            if (text->empty()) continue;
+            EXPECT_FALSE(ItalicAt(*text).back()) << where << ": ends in italics: " << *text;
+        }
+    });
+}
+
 TEST(Wording, EverySolutionEndsItsLine) {
     // The composition puts the next problem after a solution's own line end: without it no
     // blank line would part the two problems.

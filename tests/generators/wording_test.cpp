@@ -17,7 +17,7 @@ void ForEveryProblem(const std::function<void(const GeneratedProblem&, const std
     GeneratorHub hub;
     for (const auto& module : hub.Modules()) {
         for (const auto& routine : module.routines) {
-            for (int seed = 0; seed < 120; ++seed) {
+            for (int seed = 0; seed < 40; ++seed) {
                 const GeneratedProblem p = GenerateProblem(
                     hub, module.name, {routine.number, seed % 900, seed * 7 + 3, 1 + seed % 26, 1 + seed % 4, 1});
                 check(p, module.name + " " + std::to_string(routine.number) + " code " + p.code);

@@ -117,7 +117,7 @@ std::set<std::string> FigureLabels(const std::string& svg) {
 // The smallest font size of a figure's labels, in millimetres of its canvas.
 double SmallestLabelMm(const std::string& svg) {
     static const std::regex scale(R"(scale\(([0-9.]+)\))");
-    static const std::regex size(R"(font-size="([0-9.]+)")");
+    static const std::regex size(R"re(font-size="([0-9.]+)")re");
     std::smatch m;
     const double s = std::regex_search(svg, m, scale) ? std::stod(m[1]) : 1.0;
     double least = 1e9;

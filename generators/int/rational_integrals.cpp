@@ -19,6 +19,9 @@ std::string IntegralOf(const RationalIntegral& r) {
            PolynomialToMarkup(0, 0, r.d2, r.d1, r.d0, kX) + "#COC) dx#INT)&-I";
 }
 
+// The variables are italic and the function names upright: a logarithm or an arctangent
+// switches italic on again behind its name, so every antiderivative ends with "&-I" to
+// leave the text upright for what follows it.
 std::string LogOf(const std::string& inner) { return "&-Iln|&+I" + inner + "|"; }
 } // namespace
 
@@ -77,7 +80,7 @@ RationalIntegral MakePartialFractionIntegral(GeneratorWorkspace& ws, int shape) 
         }
         if (ok) {
             r.statement = IntegralOf(r);
-            r.solution = answer + " + C";
+            r.solution = answer + " + C&-I";
             break;
         }
         bound.Next();
@@ -112,7 +115,7 @@ RationalIntegral MakeQuadraticDenominatorIntegral(GeneratorWorkspace& ws) {
         else argument = " #COC(" + shifted + "#N)(" + PlainNumberText(q) + "#COC)";
         AppendTerm(ws, answer, n + m * p, q, "&-Iarctan&+I" + argument);
         r.statement = IntegralOf(r);
-        r.solution = answer + " + C";
+        r.solution = answer + " + C&-I";
         break;
     }
     return r;

@@ -17,7 +17,7 @@ void ForEveryProblem(const std::function<void(const GeneratedProblem&, const std
     GeneratorHub hub;
     for (const auto& module : hub.Modules()) {
         for (const auto& routine : module.routines) {
-            for (int seed = 0; seed < 120; ++seed) {
+            for (int seed = 0; seed < 40; ++seed) {
                 const GeneratedProblem p = GenerateProblem(
                     hub, module.name, {routine.number, seed % 900, seed * 7 + 3, 1 + seed % 26, 1 + seed % 4, 1});
                 check(p, module.name + " " + std::to_string(routine.number) + " code " + p.code);
@@ -115,6 +115,17 @@ TEST(Wording, ItemLettersAreBoldAndUpright) {
                 const std::size_t at = static_cast<std::size_t>(it->position()) + 3;
                 EXPECT_FALSE(italic[at]) << where << ": italic item letter " << it->str() << " in " << *text;
             }
+        }
+    });
+}
+
+TEST(Wording, EveryTextEndsUpright) {
+    // Italic left on at the end of a statement or a solution would run on into the next
+    // problem of the page.
+    ForEveryProblem([](const GeneratedProblem& p, const std::string& where) {
+        for (const std::string* text : {&p.statement, &p.solution}) {
+            if (text->empty()) continue;
+            EXPECT_FALSE(ItalicAt(*text).back()) << where << ": ends in italics: " << *text;
         }
     });
 }

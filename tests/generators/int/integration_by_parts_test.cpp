@@ -31,11 +31,11 @@ TEST(IntegrationByParts, TwoItemsMakeOneRowWithTheThirdColumnEmpty) {
     for (int count : {0, 1, 2}) {
         const GeneratedProblem p = GenerateProblem(hub, "KVOL_MATH_INT", {5, 10, 321, count, 1, 1});
         EXPECT_EQ(LetteredItems(p.statement).size(), 2u) << p.code;
-        EXPECT_EQ(p.statement.rfind("&-ISolve the following integrals:&LF&SP=10:&+Ba)&-B #INT(", 0), 0u);
-        EXPECT_NE(p.statement.find("&SP=41:&+Bb)&-B #INT("), std::string::npos);
+        EXPECT_EQ(p.statement.rfind("&-ISolve the following integrals:&LF&SP=10:&-I&+Ba)&-B #INT(", 0), 0u);
+        EXPECT_NE(p.statement.find("&SP=41:&-I&+Bb)&-B #INT("), std::string::npos);
         EXPECT_EQ(p.statement.find("&SP=72:"), std::string::npos);
         EXPECT_EQ(p.statement.substr(p.statement.size() - 11), "#INT)&LF&LF") << p.statement;
         EXPECT_EQ(p.solution.find("&LF"), p.solution.size() - 3);
-        EXPECT_NE(p.solution.find(" + &+IC&-I&SP=55:&+Bb)&-B "), std::string::npos);
+        EXPECT_NE(p.solution.find(" + &+IC&-I&SP=55:&-I&+Bb)&-B "), std::string::npos);
     }
 }

@@ -45,14 +45,14 @@ TEST(RationalIntegrals, ShapesFollowTheItemNumber) {
 TEST(RationalIntegrals, LayoutInRowsOfThreeAndTwo) {
     GeneratorHub hub;
     const GeneratedProblem p = GenerateProblem(hub, "KVOL_MATH_INT", {1, 0, 1234, 4, 1, 1});
-    EXPECT_EQ(p.statement.rfind("&-ISolve the following integrals:&LF&SP=5:&+Ba)&-B &+I#INT(#COC(", 0), 0u);
-    EXPECT_NE(p.statement.find("&SP=35:&+Bb)&-B "), std::string::npos);
-    EXPECT_NE(p.statement.find("#INT)&-I&LF&LF&SP=5:&+Bd)&-B "), std::string::npos);
+    EXPECT_EQ(p.statement.rfind("&-ISolve the following integrals:&LF&SP=5:&-I&+Ba)&-B &+I#INT(#COC(", 0), 0u);
+    EXPECT_NE(p.statement.find("&SP=35:&-I&+Bb)&-B "), std::string::npos);
+    EXPECT_NE(p.statement.find("#INT)&-I&LF&LF&SP=5:&-I&+Bd)&-B "), std::string::npos);
     EXPECT_EQ(p.statement.substr(p.statement.size() - 17), " dx#INT)&-I&LF&LF");
-    EXPECT_EQ(p.solution.rfind("&SP=10:&+Ba)&-B ", 0), 0u);
-    EXPECT_NE(p.solution.find(" + C&SP=55:&+Bb)&-B "), std::string::npos);
-    EXPECT_NE(p.solution.find(" + C&LF&SP=10:&+Bc)&-B "), std::string::npos);
-    EXPECT_EQ(p.solution.substr(p.solution.size() - 7), " + C&LF");
+    EXPECT_EQ(p.solution.rfind("&SP=10:&-I&+Ba)&-B ", 0), 0u);
+    EXPECT_NE(p.solution.find(" + C&-I&SP=55:&-I&+Bb)&-B "), std::string::npos);
+    EXPECT_NE(p.solution.find(" + C&-I&LF&SP=10:&-I&+Bc)&-B "), std::string::npos);
+    EXPECT_EQ(p.solution.substr(p.solution.size() - 10), " + C&-I&LF");
 }
 
 TEST(RationalIntegrals, ItemCountZeroGivesOneItemAndThirtyGivesTwentySix) {

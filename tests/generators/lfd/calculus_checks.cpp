@@ -20,7 +20,7 @@ std::string IntegrandOf(const std::string& item) {
 }
 
 std::string WithoutConstant(const std::string& answer) {
-    for (const char* c : {" + &+IC&-I", " + C"}) {
+    for (const char* c : {" + &+IC&-I", " + C&-I", " + C"}) {
         const std::string tail = c;
         if (answer.size() >= tail.size() && answer.compare(answer.size() - tail.size(), tail.size(), tail) == 0)
             return answer.substr(0, answer.size() - tail.size());

@@ -33,7 +33,10 @@ double NumberAfter(const std::string& text, const std::string& marker, std::size
 std::vector<std::pair<std::string, std::string>> TableCells(const std::string& text, const std::string& first,
                                                             const std::string& second) {
     std::vector<std::pair<std::string, std::string>> cells;
-    std::size_t at = 0;
+    // The rows begin behind the header band, whose heads stand at the same tabs.
+    const auto band = text.find("&FF=REC,");
+    std::size_t at = band == std::string::npos ? 0 : text.find("&LF", band);
+    if (at == std::string::npos) at = 0;
     while ((at = text.find(first, at)) != std::string::npos) {
         const auto middle = text.find(second, at);
         const auto end = text.find("&LF", at);

@@ -72,7 +72,7 @@ TEST(TrigEquations, ListOfTheEquationsModule) {
     SweepRoutine("KVOL_MATH_ECU", 14, 2000, [](const GeneratedProblem& p) {
         CheckList(p, "  ", kTrigSquareWithBlank);
         EXPECT_EQ(p.statement.rfind("&-I&-BSolve the following equations. Give the &+Ix&-I values within the "
-                                    "interval& [0\u00BA& ,& 360\u00BA).&LF",
+                                    "interval& [0\u00B0& ,& 360\u00B0).&LF",
                                     0),
                   0u);
         EXPECT_EQ(p.statement.find("^2^"), std::string::npos);

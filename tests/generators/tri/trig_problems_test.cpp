@@ -357,7 +357,9 @@ TEST(TrigPlaneShapes, QuestionsAskForWhatTheFigureDraws) {
             EXPECT_TRUE(d.segments.count(ab) || d.segments.count(ba)) << ab << " is not drawn in " << m[1];
         }
         const auto onto = p.statement.find("height onto the side &+I");
-        if (onto != std::string::npos) EXPECT_EQ(p.statement.substr(onto + 24, 2), d.heightOnto) << p.statement;
+        if (onto != std::string::npos) {
+            EXPECT_EQ(p.statement.substr(onto + 24, 2), d.heightOnto) << p.statement;
+        }
         // The rhombus figure draws AC as the longer diagonal.
         if (p.statement.find("minor diagonal") != std::string::npos) {
             EXPECT_NE(p.statement.find("minor diagonal &+IBD&-I"), std::string::npos) << p.statement;

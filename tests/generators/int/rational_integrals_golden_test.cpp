@@ -73,43 +73,44 @@ const Golden kGolden[] = {
      "&+Ix + 7| + C&LF&SP=10:&+By)&-B -#COC(11#N)(7#COC)&-Iln|&+Ix + 4| - #COC(24#N)(7#COC)&-Iln|&+Ix - 3|"
      " + C&SP=55:&+Bz)&-B -7&-Iln|&+Ix + 8| - #COC(53#N)(x + 8#COC) + C&LF"},
     {"0020007777020101",
-     "&-ISolve the following integrals:&LF&SP=5:&+Ba)&-B &+I#INT(#COC(-7x& +& 9#N)(x^2& +& 4x& +& 13#COC) "
-     "dx#INT)&-I&SP=35:&+Bb)&-B &+I#INT(#COC(-x& +& 9#N)(x^2& -& 8x& +& 65#COC) dx#INT)&-I&LF&LF",
-     "&SP=10:&+Ba)&-B -#COC(7#N)(2#COC)&-Iln|&+Ix^2& +& 4x& +& 13| + #COC(23#N)(3#COC)&-Iarctan&+I #COC(x "
-     "+ 2#N)(3#COC) + C&SP=55:&+Bb)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& -& 8x& +& 65| + #COC(5#N)(7#COC)&-Ia"
-     "rctan&+I #COC(x - 4#N)(7#COC) + C&LF"},
+     "&-ISolve the following integrals:&LF&SP=5:&+Ba)&-B &+I#INT(#COC(-7x& +& 9#N)(x^2& +& 4x& +& 13#C"
+     "OC) dx#INT)&-I&SP=35:&+Bb)&-B &+I#INT(#COC(-x& +& 9#N)(x^2& -& 8x& +& 65#COC) dx#INT)&-I&LF&LF",
+     "&SP=10:&+Ba)&-B -#COC(7#N)(2#COC)&-Iln|&+Ix^2& +& 4x& +& 13| + #COC(23#N)(3#COC)&-Iarctan&+I #CO"
+     "C(x + 2#N)(3#COC) + C&LF&SP=10:&+Bb)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& -& 8x& +& 65| + #COC(5#N)"
+     "(7#COC)&-Iarctan&+I #COC(x - 4#N)(7#COC) + C&LF"},
     {"0020000999100202",
-     "&-ISolve the following integrals:&LF&SP=5:&+Ba)&-B &+I#INT(#COC(-8x& -& 7#N)(x^2& -& 18x& +& 85#COC)"
-     " dx#INT)&-I&SP=35:&+Bb)&-B &+I#INT(#COC(8x& +& 1#N)(x^2& -& 12x& +& 100#COC) dx#INT)&-I&SP=65:&+Bc)&"
-     "-B &+I#INT(#COC(9x& -& 6#N)(x^2& -& 8x& +& 52#COC) dx#INT)&-I&LF&LF&SP=5:&+Bd)&-B &+I#INT(#COC(-3x& "
-     "-& 7#N)(x^2& -& 6x& +& 58#COC) dx#INT)&-I&SP=35:&+Be)&-B &+I#INT(#COC(-6x& +& 3#N)(x^2& +& 16#COC) d"
-     "x#INT)&-I&SP=65:&+Bf)&-B &+I#INT(#COC(9x& +& 3#N)(x^2& +& 4x& +& 53#COC) dx#INT)&-I&LF&LF&SP=5:&+Bg)"
-     "&-B &+I#INT(#COC(-6#N)(x^2& -& 12x& +& 40#COC) dx#INT)&-I&SP=35:&+Bh)&-B &+I#INT(#COC(-4x& -& 1#N)(x"
-     "^2& -& 2x& +& 17#COC) dx#INT)&-I&SP=65:&+Bi)&-B &+I#INT(#COC(-2x& +& 7#N)(x^2& -& 4x& +& 8#COC) dx#I"
-     "NT)&-I&LF&LF&SP=5:&+Bj)&-B &+I#INT(#COC(7x& +& 2#N)(x^2& +& 10x& +& 89#COC) dx#INT)&-I&LF&LF",
-     "&SP=10:&+Ba)&-B -4&-Iln|&+Ix^2& -& 18x& +& 85| - #COC(79#N)(2#COC)&-Iarctan&+I #COC(x - 9#N)(2#COC) "
-     "+ C&SP=55:&+Bb)&-B 4&-Iln|&+Ix^2& -& 12x& +& 100| + #COC(49#N)(8#COC)&-Iarctan&+I #COC(x - 6#N)(8#CO"
-     "C) + C&LF&SP=10:&+Bc)&-B #COC(9#N)(2#COC)&-Iln|&+Ix^2& -& 8x& +& 52| + 5&-Iarctan&+I #COC(x - 4#N)(6"
-     "#COC) + C&SP=55:&+Bd)&-B -#COC(3#N)(2#COC)&-Iln|&+Ix^2& -& 6x& +& 58| - #COC(16#N)(7#COC)&-Iarctan&+"
-     "I #COC(x - 3#N)(7#COC) + C&LF&SP=10:&+Be)&-B -3&-Iln|&+Ix^2& +& 16| + #COC(3#N)(4#COC)&-Iarctan&+I #"
-     "COC(x#N)(4#COC) + C&SP=55:&+Bf)&-B #COC(9#N)(2#COC)&-Iln|&+Ix^2& +& 4x& +& 53| - #COC(15#N)(7#COC)&-"
-     "Iarctan&+I #COC(x + 2#N)(7#COC) + C&LF&SP=10:&+Bg)&-B -3&-Iarctan&+I #COC(x - 6#N)(2#COC) + C&SP=55:"
-     "&+Bh)&-B -2&-Iln|&+Ix^2& -& 2x& +& 17| - #COC(5#N)(4#COC)&-Iarctan&+I #COC(x - 1#N)(4#COC) + C&LF&SP"
-     "=10:&+Bi)&-B -&-Iln|&+Ix^2& -& 4x& +& 8| + #COC(3#N)(2#COC)&-Iarctan&+I #COC(x - 2#N)(2#COC) + C&SP="
-     "55:&+Bj)&-B #COC(7#N)(2#COC)&-Iln|&+Ix^2& +& 10x& +& 89| - #COC(33#N)(8#COC)&-Iarctan&+I #COC(x + 5#"
-     "N)(8#COC) + C&LF"},
+     "&-ISolve the following integrals:&LF&SP=5:&+Ba)&-B &+I#INT(#COC(-8x& -& 7#N)(x^2& -& 18x& +& 85#"
+     "COC) dx#INT)&-I&SP=35:&+Bb)&-B &+I#INT(#COC(8x& +& 1#N)(x^2& -& 12x& +& 100#COC) dx#INT)&-I&SP=6"
+     "5:&+Bc)&-B &+I#INT(#COC(9x& -& 6#N)(x^2& -& 8x& +& 52#COC) dx#INT)&-I&LF&LF&SP=5:&+Bd)&-B &+I#IN"
+     "T(#COC(-3x& -& 7#N)(x^2& -& 6x& +& 58#COC) dx#INT)&-I&SP=35:&+Be)&-B &+I#INT(#COC(-6x& +& 3#N)(x"
+     "^2& +& 16#COC) dx#INT)&-I&SP=65:&+Bf)&-B &+I#INT(#COC(9x& +& 3#N)(x^2& +& 4x& +& 53#COC) dx#INT)"
+     "&-I&LF&LF&SP=5:&+Bg)&-B &+I#INT(#COC(-6#N)(x^2& -& 12x& +& 40#COC) dx#INT)&-I&SP=35:&+Bh)&-B &+I"
+     "#INT(#COC(-4x& -& 1#N)(x^2& -& 2x& +& 17#COC) dx#INT)&-I&SP=65:&+Bi)&-B &+I#INT(#COC(-2x& +& 7#N"
+     ")(x^2& -& 4x& +& 8#COC) dx#INT)&-I&LF&LF&SP=5:&+Bj)&-B &+I#INT(#COC(7x& +& 2#N)(x^2& +& 10x& +& "
+     "89#COC) dx#INT)&-I&LF&LF",
+     "&SP=10:&+Ba)&-B -4&-Iln|&+Ix^2& -& 18x& +& 85| - #COC(79#N)(2#COC)&-Iarctan&+I #COC(x - 9#N)(2#C"
+     "OC) + C&LF&SP=10:&+Bb)&-B 4&-Iln|&+Ix^2& -& 12x& +& 100| + #COC(49#N)(8#COC)&-Iarctan&+I #COC(x "
+     "- 6#N)(8#COC) + C&LF&SP=10:&+Bc)&-B #COC(9#N)(2#COC)&-Iln|&+Ix^2& -& 8x& +& 52| + 5&-Iarctan&+I "
+     "#COC(x - 4#N)(6#COC) + C&LF&SP=10:&+Bd)&-B -#COC(3#N)(2#COC)&-Iln|&+Ix^2& -& 6x& +& 58| - #COC(1"
+     "6#N)(7#COC)&-Iarctan&+I #COC(x - 3#N)(7#COC) + C&LF&SP=10:&+Be)&-B -3&-Iln|&+Ix^2& +& 16| + #COC"
+     "(3#N)(4#COC)&-Iarctan&+I #COC(x#N)(4#COC) + C&LF&SP=10:&+Bf)&-B #COC(9#N)(2#COC)&-Iln|&+Ix^2& +&"
+     " 4x& +& 53| - #COC(15#N)(7#COC)&-Iarctan&+I #COC(x + 2#N)(7#COC) + C&LF&SP=10:&+Bg)&-B -3&-Iarct"
+     "an&+I #COC(x - 6#N)(2#COC) + C&LF&SP=10:&+Bh)&-B -2&-Iln|&+Ix^2& -& 2x& +& 17| - #COC(5#N)(4#COC"
+     ")&-Iarctan&+I #COC(x - 1#N)(4#COC) + C&LF&SP=10:&+Bi)&-B -&-Iln|&+Ix^2& -& 4x& +& 8| + #COC(3#N)"
+     "(2#COC)&-Iarctan&+I #COC(x - 2#N)(2#COC) + C&LF&SP=10:&+Bj)&-B #COC(7#N)(2#COC)&-Iln|&+Ix^2& +& "
+     "10x& +& 89| - #COC(33#N)(8#COC)&-Iarctan&+I #COC(x + 5#N)(8#COC) + C&LF"},
     {"0020004321050301",
-     "&-ISolve the following integrals:&LF&SP=5:&+Ba)&-B &+I#INT(#COC(-x& +& 9#N)(x^2& +& 12x& +& 85#COC) "
-     "dx#INT)&-I&SP=35:&+Bb)&-B &+I#INT(#COC(-8x& +& 1#N)(x^2& -& 12x& +& 61#COC) dx#INT)&-I&SP=65:&+Bc)&-"
-     "B &+I#INT(#COC(-x& +& 2#N)(x^2& +& 8x& +& 32#COC) dx#INT)&-I&LF&LF&SP=5:&+Bd)&-B &+I#INT(#COC(9x& -&"
-     " 3#N)(x^2& +& 18x& +& 117#COC) dx#INT)&-I&SP=35:&+Be)&-B &+I#INT(#COC(8x& -& 9#N)(x^2& +& 6x& +& 34#"
-     "COC) dx#INT)&-I&LF&LF",
-     "&SP=10:&+Ba)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& +& 12x& +& 85| + #COC(15#N)(7#COC)&-Iarctan&+I #COC(x"
-     " + 6#N)(7#COC) + C&SP=55:&+Bb)&-B -4&-Iln|&+Ix^2& -& 12x& +& 61| - #COC(47#N)(5#COC)&-Iarctan&+I #CO"
-     "C(x - 6#N)(5#COC) + C&LF&SP=10:&+Bc)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& +& 8x& +& 32| + #COC(3#N)(2#C"
-     "OC)&-Iarctan&+I #COC(x + 4#N)(4#COC) + C&SP=55:&+Bd)&-B #COC(9#N)(2#COC)&-Iln|&+Ix^2& +& 18x& +& 117"
-     "| - 14&-Iarctan&+I #COC(x + 9#N)(6#COC) + C&LF&SP=10:&+Be)&-B 4&-Iln|&+Ix^2& +& 6x& +& 34| - #COC(33"
-     "#N)(5#COC)&-Iarctan&+I #COC(x + 3#N)(5#COC) + C&LF"},
+     "&-ISolve the following integrals:&LF&SP=5:&+Ba)&-B &+I#INT(#COC(-x& +& 9#N)(x^2& +& 12x& +& 85#C"
+     "OC) dx#INT)&-I&SP=35:&+Bb)&-B &+I#INT(#COC(-8x& +& 1#N)(x^2& -& 12x& +& 61#COC) dx#INT)&-I&SP=65"
+     ":&+Bc)&-B &+I#INT(#COC(-x& +& 2#N)(x^2& +& 8x& +& 32#COC) dx#INT)&-I&LF&LF&SP=5:&+Bd)&-B &+I#INT"
+     "(#COC(9x& -& 3#N)(x^2& +& 18x& +& 117#COC) dx#INT)&-I&SP=35:&+Be)&-B &+I#INT(#COC(8x& -& 9#N)(x^"
+     "2& +& 6x& +& 34#COC) dx#INT)&-I&LF&LF",
+     "&SP=10:&+Ba)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& +& 12x& +& 85| + #COC(15#N)(7#COC)&-Iarctan&+I #C"
+     "OC(x + 6#N)(7#COC) + C&LF&SP=10:&+Bb)&-B -4&-Iln|&+Ix^2& -& 12x& +& 61| - #COC(47#N)(5#COC)&-Iar"
+     "ctan&+I #COC(x - 6#N)(5#COC) + C&LF&SP=10:&+Bc)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& +& 8x& +& 32| "
+     "+ #COC(3#N)(2#COC)&-Iarctan&+I #COC(x + 4#N)(4#COC) + C&LF&SP=10:&+Bd)&-B #COC(9#N)(2#COC)&-Iln|"
+     "&+Ix^2& +& 18x& +& 117| - 14&-Iarctan&+I #COC(x + 9#N)(6#COC) + C&LF&SP=10:&+Be)&-B 4&-Iln|&+Ix^"
+     "2& +& 6x& +& 34| - #COC(33#N)(5#COC)&-Iarctan&+I #COC(x + 3#N)(5#COC) + C&LF"},
 };
 } // namespace
 

@@ -26,7 +26,7 @@ int MarksInFirstRow(const std::string& text) {
     return marks;
 }
 
-const std::string kLongSum = "(-11) + (-12) - (-13) + (-14) - (-15)"; // about a third of the line
+const std::string kLongSum = "(-11) + (-12) - (-13) + (-14)"; // a third of the line
 } // namespace
 
 TEST(ColumnPercent, ReadsTheLeftPosition) {

@@ -2,6 +2,7 @@
 
 #include <regex>
 #include <set>
+#include <vector>
 
 #include "generators/hub.h"
 #include "support/generator_sweep.h"
@@ -30,6 +31,19 @@ const std::set<std::string> kSolutionFour = {"&SP=10:", "&SP=30:", "&SP=50:", "&
 const std::set<std::string> kAngleStatement = {"&SP=3:", "&SP=35:", "&SP=67:"};
 const std::set<std::string> kAngleSolution = {"&SP=10:", "&SP=35:", "&SP=67:"};
 const std::set<std::string> kComplexSolutionFour = {"&SP=10:", "&SP=32:", "&SP=54:", "&SP=76:"};
+
+// The marks a drill may write: its own, or those of a standard set with fewer columns when
+// its items are too wide for its own.
+std::set<std::string> Allowed(const std::set<std::string>& own, bool statement) {
+    const std::vector<std::set<std::string>> standard =
+        statement ? std::vector<std::set<std::string>>{kFour, {"&SP=5:", "&SP=29:", "&SP=53:"}, {"&SP=5:", "&SP=43:"}, {"&SP=5:"}}
+                  : std::vector<std::set<std::string>>{kSolutionFour, {"&SP=10:", "&SP=40:", "&SP=70:"},
+                                                       {"&SP=10:", "&SP=50:"}, {"&SP=10:"}};
+    std::set<std::string> allowed = own;
+    for (const auto& set : standard)
+        if (set.size() < own.size()) allowed.insert(set.begin(), set.end());
+    return allowed;
+}
 
 std::set<std::string> Marks(const std::string& text) {
     std::set<std::string> out;
@@ -80,8 +94,11 @@ TEST(AlgebraLayout, HeadLinesAndColumns) {
             EXPECT_EQ(p.statement.substr(p.statement.size() - 6), "&LF&LF") << p.code;
         }
         EXPECT_EQ(heads, l.heads) << l.routine;
-        EXPECT_EQ(statementMarks, l.statementMarks) << l.routine;
-        EXPECT_EQ(solutionMarks, l.solutionMarks) << l.routine;
+        const std::set<std::string> statementAllowed = Allowed(l.statementMarks, true);
+        const std::set<std::string> solutionAllowed = Allowed(l.solutionMarks, false);
+        EXPECT_FALSE(statementMarks.empty()) << l.routine;
+        for (const auto& m : statementMarks) EXPECT_EQ(statementAllowed.count(m), 1u) << l.routine << " " << m;
+        for (const auto& m : solutionMarks) EXPECT_EQ(solutionAllowed.count(m), 1u) << l.routine << " " << m;
     }
 }
 

@@ -61,10 +61,12 @@ TEST(AlgebraicFractions, StatementForms) {
             product = product || p.statement.find(")_ (") != std::string::npos;
             times = times || p.statement.find("#COC) \u00B7 #COC(") != std::string::npos;
             over = over || p.statement.find("#COC) : #COC(") != std::string::npos;
+            // The drill's own columns, or fewer when an item is too wide for its column.
+            auto has = [&](const char* mark) { return p.statement.find(mark) != std::string::npos; };
             if (routine != 26) {
-                EXPECT_NE(p.statement.find("&SP=37.5:&+Bb)"), std::string::npos) << p.code;
+                EXPECT_TRUE(has("&SP=37.5:&+Bb)") || has("&SP=5:&+Bb)")) << p.code;
             } else {
-                EXPECT_NE(p.statement.find("&SP=76:&+Bd)"), std::string::npos) << p.code;
+                EXPECT_TRUE(has("&SP=76:&+Bd)") || has("&SP=43:&+Bd)") || has("&SP=5:&+Bd)")) << p.code;
             }
             EXPECT_NE(p.solution.find("&SP=70:&-I&+Bd)"), std::string::npos) << p.code;
         }

@@ -178,14 +178,14 @@ const Golden kGolden[] = {
      "&SP=10:&-I&+Ba)&-B #COC(719#N)(440#COC)&LF"},
     {"0100170052040101",
      "Calculate these expressions.&LF&SP=5:&+Ba)&-B&+I 13 + 7&-I&SP=29:&+Bb)&-B&+I 8 + (-7) + 8&-I&SP="
-     "53:&+Bc)&-B&+I (-3) - ( (-11) - 15 )&-I&SP=76:&+Bd)&-B&+I ( 9 - 2 ) - (-13)&-I&LF&LF",
+     "53:&+Bc)&-B&+I (-3) - ( (-11) - 15 )&-I&LF&SP=5:&+Bd)&-B&+I ( 9 - 2 ) - (-13)&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B 20&SP=30:&-I&+Bb)&-B 9&SP=50:&-I&+Bc)&-B 23&SP=70:&-I&+Bd)&-B 20&LF"},
     {"0103454070090502",
      "Calculate the following expressions involving integer numbers.&LF&SP=5:&+Ba)&-B&+I 2 + 11 + 14&-"
-     "I&SP=29:&+Bb)&-B&+I 8 + ( 12 - 1 )&-I&SP=53:&+Bc)&-B&+I ( 9 + 1 ) + 9&-I&SP=76:&+Bd)&-B&+I - [ 7"
-     " + ( (-6) + (-1) ) ]&-I&LF&SP=5:&+Be)&-B&+I (-12) + (-12)&-I&SP=29:&+Bf)&-B&+I 5 + 13 - (-8)&-I&"
-     "SP=53:&+Bg)&-B&+I (-2) + ( 9 - 7 )&-I&SP=76:&+Bh)&-B&+I ( (-11) - (-14) ) + 3&-I&LF&SP=5:&+Bi)&-"
-     "B&+I [ 12 + ( (-12) - 7 ) ]&-I&LF&LF",
+     "I&SP=43:&+Bb)&-B&+I 8 + ( 12 - 1 )&-I&LF&SP=5:&+Bc)&-B&+I ( 9 + 1 ) + 9&-I&SP=43:&+Bd)&-B&+I - ["
+     " 7 + ( (-6) + (-1) ) ]&-I&LF&SP=5:&+Be)&-B&+I (-12) + (-12)&-I&SP=43:&+Bf)&-B&+I 5 + 13 - (-8)&-"
+     "I&LF&SP=5:&+Bg)&-B&+I (-2) + ( 9 - 7 )&-I&SP=43:&+Bh)&-B&+I ( (-11) - (-14) ) + 3&-I&LF&SP=5:&+B"
+     "i)&-B&+I [ 12 + ( (-12) - 7 ) ]&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B 27&SP=30:&-I&+Bb)&-B 19&SP=50:&-I&+Bc)&-B 19&SP=70:&-I&+Bd)&-B 0&LF&SP=10:&-I"
      "&+Be)&-B -24&SP=30:&-I&+Bf)&-B 26&SP=50:&-I&+Bg)&-B 0&SP=70:&-I&+Bh)&-B 6&LF&SP=10:&-I&+Bi)&-B -"
      "7&LF"},
@@ -193,16 +193,16 @@ const Golden kGolden[] = {
      "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I - ( 9 + (-4) ) + 9&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B 4&LF"},
     {"0110170053040101",
-     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 2 × (-4) + (-4) × 1&-I&SP=29:&+Bb)&-B&+"
-     "I 136 : (-8) + (-5) × (-5)&-I&SP=53:&+Bc)&-B&+I (-8) × [ 4 - 2 × (-6) ]&-I&SP=76:&+Bd)&-B&+I 40 "
-     ": [ (-8) + (-6) × (-3) ]&-I&LF&LF",
+     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 2 × (-4) + (-4) × 1&-I&SP=43:&+Bb)&-B&+"
+     "I 136 : (-8) + (-5) × (-5)&-I&LF&SP=5:&+Bc)&-B&+I (-8) × [ 4 - 2 × (-6) ]&-I&SP=43:&+Bd)&-B&+I 4"
+     "0 : [ (-8) + (-6) × (-3) ]&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B -12&SP=30:&-I&+Bb)&-B 8&SP=50:&-I&+Bc)&-B -128&SP=70:&-I&+Bd)&-B 4&LF"},
     {"0113454077090502",
-     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 3 × (-7) × (-8)&-I&SP=29:&+Bb)&-B&+I 75"
-     " : 5&-I&SP=53:&+Bc)&-B&+I 7 × ( (-4) - 2 )&-I&SP=76:&+Bd)&-B&+I 84 : ( (-8) - (-1) )&-I&LF&SP=5:"
-     "&+Be)&-B&+I (-6) : 3 × (-5)&-I&SP=29:&+Bf)&-B&+I (-2) × 3 + 1 × (-2)&-I&SP=53:&+Bg)&-B&+I (-114)"
-     " : 6 - 5 × 5&-I&SP=76:&+Bh)&-B&+I 9 × [ (-6) - (-5) × (-6) ]&-I&LF&SP=5:&+Bi)&-B&+I (-6) : [ 9 +"
-     " (-2) × 3 ]&-I&LF&LF",
+     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B&+I 3 × (-7) × (-8)&-I&SP=43:&+Bb)&-B&+I 75"
+     " : 5&-I&LF&SP=5:&+Bc)&-B&+I 7 × ( (-4) - 2 )&-I&SP=43:&+Bd)&-B&+I 84 : ( (-8) - (-1) )&-I&LF&SP="
+     "5:&+Be)&-B&+I (-6) : 3 × (-5)&-I&SP=43:&+Bf)&-B&+I (-2) × 3 + 1 × (-2)&-I&LF&SP=5:&+Bg)&-B&+I (-"
+     "114) : 6 - 5 × 5&-I&SP=43:&+Bh)&-B&+I 9 × [ (-6) - (-5) × (-6) ]&-I&LF&SP=5:&+Bi)&-B&+I (-6) : ["
+     " 9 + (-2) × 3 ]&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B 168&SP=30:&-I&+Bb)&-B 15&SP=50:&-I&+Bc)&-B -42&SP=70:&-I&+Bd)&-B -12&LF&SP=10"
      ":&-I&+Be)&-B 10&SP=30:&-I&+Bf)&-B -8&SP=50:&-I&+Bg)&-B -44&SP=70:&-I&+Bh)&-B -324&LF&SP=10:&-I&+"
      "Bi)&-B -2&LF"},
@@ -346,19 +346,19 @@ const Golden kGolden[] = {
      "&SP=10:&-I&+Ba)&-B #COC(26_ #RAD(#RI(7#RI)5^4#RAD)#N)(5#COC)&LF&LF"},
     {"0250170067040101",
      "Calculate the following expressions:&LF&SP=5:&+Ba)&-B -5#SQR(20#SQR) + 2#SQR(45#SQR) + 2#SQR(5#S"
-     "QR) - 4#SQR(5#SQR)&SP=29:&+Bb)&-B #SQR(45#SQR) - #SQR(20#SQR)&SP=53:&+Bc)&-B 3#SQR(5#SQR) - 4#SQ"
-     "R(80#SQR) - 4#SQR(20#SQR)&SP=76:&+Bd)&-B #SQR(75#SQR) + 5#SQR(75#SQR) - 6#SQR(12#SQR) - 5#SQR(27"
-     "#SQR)&LF&LF",
+     "QR) - 4#SQR(5#SQR)&SP=43:&+Bb)&-B #SQR(45#SQR) - #SQR(20#SQR)&LF&LF&SP=5:&+Bc)&-B 3#SQR(5#SQR) -"
+     " 4#SQR(80#SQR) - 4#SQR(20#SQR)&SP=43:&+Bd)&-B #SQR(75#SQR) + 5#SQR(75#SQR) - 6#SQR(12#SQR) - 5#S"
+     "QR(27#SQR)&LF&LF",
      "&SP=10:&-I&+Ba)&-B -& 6#SQR(5#SQR)&SP=32:&-I&+Bb)&-B #SQR(5#SQR)&SP=54:&-I&+Bc)&-B -& 21#SQR(5#S"
      "QR)&SP=76:&-I&+Bd)&-B 3#SQR(3#SQR)&LF&LF"},
     {"0253454175090502",
      "Calculate the following expressions:&LF&SP=5:&+Ba)&-B #SQR(12#SQR) + 3#SQR(3#SQR) - #SQR(3#SQR) "
-     "+ 4#SQR(12#SQR)&SP=29:&+Bb)&-B 4#SQR(12#SQR) + 5#SQR(48#SQR)&SP=53:&+Bc)&-B #SQR(27#SQR) + #SQR("
-     "12#SQR) + 3#SQR(3#SQR)&SP=76:&+Bd)&-B 4#SQR(48#SQR) - 2#SQR(75#SQR) - 3#SQR(12#SQR) - 5#SQR(3#SQ"
-     "R)&LF&LF&SP=5:&+Be)&-B #SQR(125#SQR) + #SQR(20#SQR)&SP=29:&+Bf)&-B 3#SQR(3#SQR) - 2#SQR(48#SQR) "
-     "+ 2#SQR(3#SQR)&SP=53:&+Bg)&-B #SQR(80#SQR) + 6#SQR(125#SQR) - #SQR(5#SQR) - #SQR(45#SQR)&SP=76:&"
-     "+Bh)&-B 3#SQR(20#SQR) + #SQR(5#SQR)&LF&LF&SP=5:&+Bi)&-B #SQR(27#SQR) - 5#SQR(3#SQR) + #SQR(3#SQR"
-     ")&LF&LF",
+     "+ 4#SQR(12#SQR)&SP=43:&+Bb)&-B 4#SQR(12#SQR) + 5#SQR(48#SQR)&LF&LF&SP=5:&+Bc)&-B #SQR(27#SQR) + "
+     "#SQR(12#SQR) + 3#SQR(3#SQR)&SP=43:&+Bd)&-B 4#SQR(48#SQR) - 2#SQR(75#SQR) - 3#SQR(12#SQR) - 5#SQR"
+     "(3#SQR)&LF&LF&SP=5:&+Be)&-B #SQR(125#SQR) + #SQR(20#SQR)&SP=43:&+Bf)&-B 3#SQR(3#SQR) - 2#SQR(48#"
+     "SQR) + 2#SQR(3#SQR)&LF&LF&SP=5:&+Bg)&-B #SQR(80#SQR) + 6#SQR(125#SQR) - #SQR(5#SQR) - #SQR(45#SQ"
+     "R)&SP=43:&+Bh)&-B 3#SQR(20#SQR) + #SQR(5#SQR)&LF&LF&SP=5:&+Bi)&-B #SQR(27#SQR) - 5#SQR(3#SQR) + "
+     "#SQR(3#SQR)&LF&LF",
      "&SP=10:&-I&+Ba)&-B 12#SQR(3#SQR)&SP=32:&-I&+Bb)&-B 28#SQR(3#SQR)&SP=54:&-I&+Bc)&-B 8#SQR(3#SQR)&"
      "SP=76:&-I&+Bd)&-B -& 5#SQR(3#SQR)&LF&LF&SP=10:&-I&+Be)&-B 7#SQR(5#SQR)&SP=32:&-I&+Bf)&-B -& 3#SQ"
      "R(3#SQR)&SP=54:&-I&+Bg)&-B 30#SQR(5#SQR)&SP=76:&-I&+Bh)&-B 7#SQR(5#SQR)&LF&LF&SP=10:&-I&+Bi)&-B "

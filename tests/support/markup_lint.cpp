@@ -7,7 +7,7 @@ namespace {
 // Switches and symbols that take no value, longest first where one is a prefix of another.
 const std::vector<std::string> kPlainCodes = {
     "&+I", "&-I", "&+B", "&-B", "&+U", "&-U", "&+S", "&-S", "&LF", "&FA", "&DT",
-    "& ", "&Q", "&=", "&#", "&_", "&&", "&.", "&,", "&(", "&)",
+    "& ", "&|", "&Q", "&=", "&#", "&_", "&&", "&.", "&,", "&(", "&)",
     // entities
     "&alfa", "&beta", "&gamma", "&Gamma", "&delta", "&Delta", "&epsilon", "&zeta", "&eta", "&teta", "&Teta",
     "&iota", "&kappa", "&lambda", "&Lambda", "&mu", "&nu", "&xi", "&Xi", "&pi", "&Pi", "&ro", "&sigma",

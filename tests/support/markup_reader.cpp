@@ -90,7 +90,7 @@ private:
             if (c == ' ') ++pos_;
             else if ((c == '_' || c == '^') && pos_ + 1 < s_.size() && s_[pos_ + 1] == ' ') pos_ += 2;
             else if (c != '&') return;
-            else if (At("& ")) pos_ += 2;
+            else if (At("& ") || At("&|")) pos_ += 2; // a space, or the cell mark of a row
             else if (At("&+I") || At("&-I") || At("&+B") || At("&-B") || At("&LF")) pos_ += 3;
             else if (At("&SP=")) {
                 std::size_t end = pos_ + 4;

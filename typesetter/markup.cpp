@@ -250,7 +250,15 @@ void Interpreter::Run() {
             }
             p += 2;
         } else {
-            PlainCharacter(c);
+            // A dash inside a word of upright text ("non-parallel", two letters on each side)
+            // is a hyphen; between variables ("a-b") it stays a minus.
+            const auto letter = [this, len](std::size_t i) {
+                const char32_t x = i < len ? text_[i] : U' ';
+                return (x >= U'a' && x <= U'z') || (x >= U'A' && x <= U'Z');
+            };
+            const bool hyphen = c == U'-' && p >= 2 && !s_.FontItalic() && letter(p - 1) && letter(p - 2) &&
+                                letter(p + 1) && letter(p + 2);
+            PlainCharacter(hyphen ? U'\u2010' : c);
             breakPoint = (c == U' ');
             p += 1;
         }

@@ -86,7 +86,7 @@ TEST(Composition, ARunOnSolutionWithColumnsEndsItsLine) {
     const std::string& second = bench.app.Blocks[5].text;
     EXPECT_EQ(second.substr(second.size() - 12), "&SP=10: -&LF");
     const std::string& third = bench.app.Blocks[6].text;
-    EXPECT_EQ(third.substr(third.size() - 5), "&-B& c");
+    EXPECT_EQ(third.substr(third.size() - 6), "&-B& c");
 }
 
 TEST(Composition, EmptySolutionShiftsTheSolutionNumbers) {

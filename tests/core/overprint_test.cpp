@@ -129,7 +129,7 @@ std::vector<std::string> CheckModule(const Module& module, int position, int see
         writer.setResolution(1200);
         QtSurface paper(writer);
         for (int page = 1; page <= app.PageCount; ++page) {
-            if (page > 1) writer.newPage();
+            if (page > 1) paper.NewPage();
             TypesetterState t;
             UsePictures(t);
             InkRecorder recorder(paper, t, 1.0);

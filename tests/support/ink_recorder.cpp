@@ -17,6 +17,12 @@ std::string Describe(const InkRecorder::Ink& ink) {
         << std::lround(ink.x1) << "," << std::lround(ink.y1) << "] group " << ink.group;
     return out.str();
 }
+
+// Text that stands wholly on a filled box (a table's head band) is set on it, not over it.
+bool SetOnBand(const InkRecorder::Ink& band, const InkRecorder::Ink& text, double tolerance) {
+    return band.kind == 'F' && text.kind == 'T' && text.x0 >= band.x0 - tolerance && text.x1 <= band.x1 + tolerance &&
+           text.y0 >= band.y0 - tolerance && text.y1 <= band.y1 + tolerance;
+}
 } // namespace
 
 double InkRecorder::StrokeTwips() const { return inner_.DrawWidth() * inner_.TwipsPerPixelX(); }
@@ -35,8 +41,14 @@ void InkRecorder::Add(Ink ink) {
     inks.push_back(std::move(ink));
 }
 
+// Text in a colour too pale to read on paper (the table heads written in their band's
+// colour, only to size its underline) is no ink a reader sees.
+bool TooPaleToRead(std::uint32_t color) {
+    return (color & 0xFF) >= 0xE0 && ((color >> 8) & 0xFF) >= 0xE0 && ((color >> 16) & 0xFF) >= 0xE0;
+}
+
 void InkRecorder::PrintText(const std::string& text) {
-    if (!Blank(text) && inner_.ForeColor() != kWhite) {
+    if (!Blank(text) && !TooPaleToRead(inner_.ForeColor())) {
         const double x = inner_.CurrentX(), y = inner_.CurrentY();
         const double w = inner_.TextWidth(text), h = inner_.TextHeight(text);
         // The line box less the room above the capitals and below the descenders.
@@ -104,6 +116,7 @@ std::vector<std::string> OverprintFaults(const std::vector<InkRecorder::Ink>& in
             // What is drawn outside the layout (title rule, page number) is only held to the
             // margins here.
             if (a.group == b.group || a.group < 0 || b.group < 0) continue;
+            if (SetOnBand(a, b, tolerance) || SetOnBand(b, a, tolerance)) continue;
             const double overlapX = std::min(a.x1, b.x1) - std::max(a.x0, b.x0);
             const double overlapY = std::min(a.y1, b.y1) - std::max(a.y0, b.y0);
             if (overlapX > tolerance && overlapY > tolerance)

@@ -246,6 +246,14 @@ TEST_F(Clearance, EveryMinusIsTheTrueMinusSign) {
     // Minus and plus stand at one height.
     Draw("a+b-c");
     EXPECT_DOUBLE_EQ(s.texts[1].y, s.texts[3].y);
+    // A dash inside a word of upright text is a hyphen, not a minus.
+    Draw("two non-parallel sides");
+    int hyphens = 0;
+    for (const auto& t : s.texts) {
+        EXPECT_EQ(t.text.find("\u2212"), std::string::npos) << t.text;
+        if (t.text.find("\u2010") != std::string::npos) ++hyphens;
+    }
+    EXPECT_EQ(hyphens, 1);
 }
 
 TEST_F(Clearance, SignsStandUprightAndGreekLettersFollowTheText) {

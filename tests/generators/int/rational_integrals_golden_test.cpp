@@ -80,8 +80,8 @@ const Golden kGolden[] = {
      "&-ISolve the following integrals:&LF&SP=5:&-I&+Ba)&-B &+I#INT(#COC(-7x& +& 9#N)(x^2& +& 4x& +& 13#CO"
      "C) dx#INT)&-I&SP=35:&-I&+Bb)&-B &+I#INT(#COC(-x& +& 9#N)(x^2& -& 8x& +& 65#COC) dx#INT)&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B -#COC(7#N)(2#COC)&-Iln|&+Ix^2& +& 4x& +& 13| + #COC(23#N)(3#COC)&-Iarctan&+I #COC"
-     "(x + 2#N)(3#COC) + C&-I&SP=55:&-I&+Bb)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& -& 8x& +& 65| + #COC(5#N)(7"
-     "#COC)&-Iarctan&+I #COC(x - 4#N)(7#COC) + C&-I&LF"},
+     "(x + 2#N)(3#COC) + C&-I&LF&SP=10:&-I&+Bb)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& -& 8x& +& 65| + #COC(5#N"
+     ")(7#COC)&-Iarctan&+I #COC(x - 4#N)(7#COC) + C&-I&LF"},
     {"0020000999100202",
      "&-ISolve the following integrals:&LF&SP=5:&-I&+Ba)&-B &+I#INT(#COC(-8x& -& 7#N)(x^2& -& 18x& +& 85#C"
      "OC) dx#INT)&-I&SP=35:&-I&+Bb)&-B &+I#INT(#COC(8x& +& 1#N)(x^2& -& 12x& +& 100#COC) dx#INT)&-I&SP=65:"
@@ -93,16 +93,16 @@ const Golden kGolden[] = {
      "(x^2& -& 4x& +& 8#COC) dx#INT)&-I&LF&LF&SP=5:&-I&+Bj)&-B &+I#INT(#COC(7x& +& 2#N)(x^2& +& 10x& +& 89"
      "#COC) dx#INT)&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B -4&-Iln|&+Ix^2& -& 18x& +& 85| - #COC(79#N)(2#COC)&-Iarctan&+I #COC(x - 9#N)(2#CO"
-     "C) + C&-I&SP=55:&-I&+Bb)&-B 4&-Iln|&+Ix^2& -& 12x& +& 100| + #COC(49#N)(8#COC)&-Iarctan&+I #COC(x - "
-     "6#N)(8#COC) + C&-I&LF&SP=10:&-I&+Bc)&-B #COC(9#N)(2#COC)&-Iln|&+Ix^2& -& 8x& +& 52| + 5&-Iarctan&+I "
-     "#COC(x - 4#N)(6#COC) + C&-I&SP=55:&-I&+Bd)&-B -#COC(3#N)(2#COC)&-Iln|&+Ix^2& -& 6x& +& 58| - #COC(16"
-     "#N)(7#COC)&-Iarctan&+I #COC(x - 3#N)(7#COC) + C&-I&LF&SP=10:&-I&+Be)&-B -3&-Iln|&+Ix^2& +& 16| + #CO"
-     "C(3#N)(4#COC)&-Iarctan&+I #COC(x#N)(4#COC) + C&-I&SP=55:&-I&+Bf)&-B #COC(9#N)(2#COC)&-Iln|&+Ix^2& +&"
-     " 4x& +& 53| - #COC(15#N)(7#COC)&-Iarctan&+I #COC(x + 2#N)(7#COC) + C&-I&LF&SP=10:&-I&+Bg)&-B -3&-Iar"
-     "ctan&+I #COC(x - 6#N)(2#COC) + C&-I&SP=55:&-I&+Bh)&-B -2&-Iln|&+Ix^2& -& 2x& +& 17| - #COC(5#N)(4#CO"
-     "C)&-Iarctan&+I #COC(x - 1#N)(4#COC) + C&-I&LF&SP=10:&-I&+Bi)&-B -&-Iln|&+Ix^2& -& 4x& +& 8| + #COC(3"
-     "#N)(2#COC)&-Iarctan&+I #COC(x - 2#N)(2#COC) + C&-I&SP=55:&-I&+Bj)&-B #COC(7#N)(2#COC)&-Iln|&+Ix^2& +"
-     "& 10x& +& 89| - #COC(33#N)(8#COC)&-Iarctan&+I #COC(x + 5#N)(8#COC) + C&-I&LF"},
+     "C) + C&-I&LF&SP=10:&-I&+Bb)&-B 4&-Iln|&+Ix^2& -& 12x& +& 100| + #COC(49#N)(8#COC)&-Iarctan&+I #COC(x"
+     " - 6#N)(8#COC) + C&-I&LF&SP=10:&-I&+Bc)&-B #COC(9#N)(2#COC)&-Iln|&+Ix^2& -& 8x& +& 52| + 5&-Iarctan&"
+     "+I #COC(x - 4#N)(6#COC) + C&-I&LF&SP=10:&-I&+Bd)&-B -#COC(3#N)(2#COC)&-Iln|&+Ix^2& -& 6x& +& 58| - #"
+     "COC(16#N)(7#COC)&-Iarctan&+I #COC(x - 3#N)(7#COC) + C&-I&LF&SP=10:&-I&+Be)&-B -3&-Iln|&+Ix^2& +& 16|"
+     " + #COC(3#N)(4#COC)&-Iarctan&+I #COC(x#N)(4#COC) + C&-I&LF&SP=10:&-I&+Bf)&-B #COC(9#N)(2#COC)&-Iln|&"
+     "+Ix^2& +& 4x& +& 53| - #COC(15#N)(7#COC)&-Iarctan&+I #COC(x + 2#N)(7#COC) + C&-I&LF&SP=10:&-I&+Bg)&-"
+     "B -3&-Iarctan&+I #COC(x - 6#N)(2#COC) + C&-I&LF&SP=10:&-I&+Bh)&-B -2&-Iln|&+Ix^2& -& 2x& +& 17| - #C"
+     "OC(5#N)(4#COC)&-Iarctan&+I #COC(x - 1#N)(4#COC) + C&-I&LF&SP=10:&-I&+Bi)&-B -&-Iln|&+Ix^2& -& 4x& +&"
+     " 8| + #COC(3#N)(2#COC)&-Iarctan&+I #COC(x - 2#N)(2#COC) + C&-I&LF&SP=10:&-I&+Bj)&-B #COC(7#N)(2#COC)"
+     "&-Iln|&+Ix^2& +& 10x& +& 89| - #COC(33#N)(8#COC)&-Iarctan&+I #COC(x + 5#N)(8#COC) + C&-I&LF"},
     {"0020004321050301",
      "&-ISolve the following integrals:&LF&SP=5:&-I&+Ba)&-B &+I#INT(#COC(-x& +& 9#N)(x^2& +& 12x& +& 85#CO"
      "C) dx#INT)&-I&SP=35:&-I&+Bb)&-B &+I#INT(#COC(-8x& +& 1#N)(x^2& -& 12x& +& 61#COC) dx#INT)&-I&SP=65:&"
@@ -110,11 +110,11 @@ const Golden kGolden[] = {
      "(#COC(9x& -& 3#N)(x^2& +& 18x& +& 117#COC) dx#INT)&-I&SP=35:&-I&+Be)&-B &+I#INT(#COC(8x& -& 9#N)(x^2"
      "& +& 6x& +& 34#COC) dx#INT)&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& +& 12x& +& 85| + #COC(15#N)(7#COC)&-Iarctan&+I #CO"
-     "C(x + 6#N)(7#COC) + C&-I&SP=55:&-I&+Bb)&-B -4&-Iln|&+Ix^2& -& 12x& +& 61| - #COC(47#N)(5#COC)&-Iarct"
-     "an&+I #COC(x - 6#N)(5#COC) + C&-I&LF&SP=10:&-I&+Bc)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& +& 8x& +& 32| "
-     "+ #COC(3#N)(2#COC)&-Iarctan&+I #COC(x + 4#N)(4#COC) + C&-I&SP=55:&-I&+Bd)&-B #COC(9#N)(2#COC)&-Iln|&"
-     "+Ix^2& +& 18x& +& 117| - 14&-Iarctan&+I #COC(x + 9#N)(6#COC) + C&-I&LF&SP=10:&-I&+Be)&-B 4&-Iln|&+Ix"
-     "^2& +& 6x& +& 34| - #COC(33#N)(5#COC)&-Iarctan&+I #COC(x + 3#N)(5#COC) + C&-I&LF"},
+     "C(x + 6#N)(7#COC) + C&-I&LF&SP=10:&-I&+Bb)&-B -4&-Iln|&+Ix^2& -& 12x& +& 61| - #COC(47#N)(5#COC)&-Ia"
+     "rctan&+I #COC(x - 6#N)(5#COC) + C&-I&LF&SP=10:&-I&+Bc)&-B -#COC(1#N)(2#COC)&-Iln|&+Ix^2& +& 8x& +& 3"
+     "2| + #COC(3#N)(2#COC)&-Iarctan&+I #COC(x + 4#N)(4#COC) + C&-I&LF&SP=10:&-I&+Bd)&-B #COC(9#N)(2#COC)&"
+     "-Iln|&+Ix^2& +& 18x& +& 117| - 14&-Iarctan&+I #COC(x + 9#N)(6#COC) + C&-I&LF&SP=10:&-I&+Be)&-B 4&-Il"
+     "n|&+Ix^2& +& 6x& +& 34| - #COC(33#N)(5#COC)&-Iarctan&+I #COC(x + 3#N)(5#COC) + C&-I&LF"},
 };
 } // namespace
 

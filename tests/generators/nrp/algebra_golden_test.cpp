@@ -203,15 +203,15 @@ const Golden kGolden[] = {
      "&LF&LF",
      "&SP=10:&-I&+Ba)&-B 34°& 53'& 2\"&LF"},
     {"0280001234030101",
-     "Calculate the following expressions involving angles.&LF&SP=3:&+Ba)&-B 80°& 4'& 43\"  -  (52°& 39'& 4"
-     "2\")&SP=35:&+Bb)&-B 69°& 25'& 45\"  -  (44°& 50'& 54\")&SP=67:&+Bc)&-B 76°& 14'& 32\"  -  (56°& 56'& 49\""
-     ")&LF&LF",
+     "Calculate the following expressions involving angles.&LF&SP=5:&+Ba)&-B 80°& 4'& 43\"  -  (52°& 39'& 4"
+     "2\")&SP=43:&+Bb)&-B 69°& 25'& 45\"  -  (44°& 50'& 54\")&LF&SP=5:&+Bc)&-B 76°& 14'& 32\"  -  (56°& 56'& 4"
+     "9\")&LF&LF",
      "&SP=10:&-I&+Ba)&-B 27°& 25'& 1\"&SP=35:&-I&+Bb)&-B 24°& 34'& 51\"&SP=67:&-I&+Bc)&-B 19°& 17'& 43\"&LF"},
     {"0285174071070402",
-     "Calculate the following expressions.&LF&SP=3:&+Ba)&-B 48°& 44'& 7\"  -  (23°& 49'& 9\")&SP=35:&+Bb)&-B"
-     " 56°& 52'& 45\"  -  (27°& 54'& 37\")&SP=67:&+Bc)&-B 62°& 56'& 27\"  -  (27°& 19'& 16\")&LF&SP=3:&+Bd)&-B"
-     " 18°& 53'& 31\"  -  (6°& 36'& 2\")&SP=35:&+Be)&-B 53°& 50'& 12\"  -  (18°& 5'& 38\")&SP=67:&+Bf)&-B 57°&"
-     " 44'& 13\"  -  (53°& 36'& 44\")&LF&SP=3:&+Bg)&-B 68°& 12'& 15\"  -  (53°& 59'& 25\")&LF&LF",
+     "Calculate the following expressions.&LF&SP=5:&+Ba)&-B 48°& 44'& 7\"  -  (23°& 49'& 9\")&SP=43:&+Bb)&-B"
+     " 56°& 52'& 45\"  -  (27°& 54'& 37\")&LF&SP=5:&+Bc)&-B 62°& 56'& 27\"  -  (27°& 19'& 16\")&SP=43:&+Bd)&-B"
+     " 18°& 53'& 31\"  -  (6°& 36'& 2\")&LF&SP=5:&+Be)&-B 53°& 50'& 12\"  -  (18°& 5'& 38\")&SP=43:&+Bf)&-B 57"
+     "°& 44'& 13\"  -  (53°& 36'& 44\")&LF&SP=5:&+Bg)&-B 68°& 12'& 15\"  -  (53°& 59'& 25\")&LF&LF",
      "&SP=10:&-I&+Ba)&-B 24°& 54'& 58\"&SP=35:&-I&+Bb)&-B 28°& 58'& 8\"&SP=67:&-I&+Bc)&-B 35°& 37'& 11\"&LF&S"
      "P=10:&-I&+Bd)&-B 12°& 17'& 29\"&SP=35:&-I&+Be)&-B 35°& 44'& 34\"&SP=67:&-I&+Bf)&-B 4°& 7'& 29\"&LF&SP=1"
      "0:&-I&+Bg)&-B 14°& 12'& 50\"&LF"},
@@ -253,16 +253,16 @@ const Golden kGolden[] = {
     {"0310001234030101",
      "Calculate the complementary and supplementary angle of the following angles:&LF&SP=5:&+Ba)&-B 80°& 4"
      "'& 43\"&SP=29:&+Bb)&-B 52°& 39'& 42\"&SP=53:&+Bc)&-B 69°& 25'& 45\"&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 9°& 55'& 17\",  99°& 55'& 17\"&SP=39:&-I&+Bb)&-B 37°& 20'& 18\",  127°& 20'& 18\"&SP="
-     "68:&-I&+Bc)&-B 20°& 34'& 15\",  110°& 34'& 15\"&LF"},
+     "&SP=10:&-I&+Ba)&-B 9°& 55'& 17\",  99°& 55'& 17\"&SP=50:&-I&+Bb)&-B 37°& 20'& 18\",  127°& 20'& 18\"&LF&"
+     "SP=10:&-I&+Bc)&-B 20°& 34'& 15\",  110°& 34'& 15\"&LF"},
     {"0315174071070402",
      "Calculate the complementary and supplementary angle of the following angles:&LF&SP=5:&+Ba)&-B 48°& 4"
      "4'& 7\"&SP=29:&+Bb)&-B 23°& 49'& 9\"&SP=53:&+Bc)&-B 27°& 54'& 37\"&SP=76:&+Bd)&-B 56°& 52'& 45\"&LF&SP=5"
      ":&+Be)&-B 27°& 19'& 16\"&SP=29:&+Bf)&-B 62°& 56'& 27\"&SP=53:&+Bg)&-B 6°& 36'& 2\"&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 41°& 15'& 53\",  131°& 15'& 53\"&SP=39:&-I&+Bb)&-B 66°& 10'& 51\",  156°& 10'& 51\"&S"
-     "P=68:&-I&+Bc)&-B 62°& 5'& 23\",  152°& 5'& 23\"&LF&SP=10:&-I&+Bd)&-B 33°& 7'& 15\",  123°& 7'& 15\"&SP=3"
-     "9:&-I&+Be)&-B 62°& 40'& 44\",  152°& 40'& 44\"&SP=68:&-I&+Bf)&-B 27°& 3'& 33\",  117°& 3'& 33\"&LF&SP=10"
-     ":&-I&+Bg)&-B 83°& 23'& 58\",  173°& 23'& 58\"&LF"},
+     "&SP=10:&-I&+Ba)&-B 41°& 15'& 53\",  131°& 15'& 53\"&SP=50:&-I&+Bb)&-B 66°& 10'& 51\",  156°& 10'& 51\"&L"
+     "F&SP=10:&-I&+Bc)&-B 62°& 5'& 23\",  152°& 5'& 23\"&SP=50:&-I&+Bd)&-B 33°& 7'& 15\",  123°& 7'& 15\"&LF&S"
+     "P=10:&-I&+Be)&-B 62°& 40'& 44\",  152°& 40'& 44\"&SP=50:&-I&+Bf)&-B 27°& 3'& 33\",  117°& 3'& 33\"&LF&SP"
+     "=10:&-I&+Bg)&-B 83°& 23'& 58\",  173°& 23'& 58\"&LF"},
     {"0318998999011010",
      "Calculate the complementary and supplementary angle of the following angles:&LF&SP=5:&+Ba)&-B 26°& 1"
      "0'& 53\"&LF&LF",
@@ -342,10 +342,10 @@ const Golden kGolden[] = {
      "&SP=10:&-I&+Ba)&-B &+I& i&-I&LF"},
     {"0360001234030101",
      "Calculate these expressions.&LF&SP=5:&+Ba)&-B  #NES(()#SQR(65#SQR)#SPB(L #T)(1&.05165 rad#SPB)#NES) "
-     " ·  #NES(()#SQR(221#SQR)#SPB(L #T)(0&.737815 rad#SPB)#NES)&SP=43:&+Bb)&-B  #NES(()2#SQR(26#SQR)#SPB("
-     "L #T)(101&.31°#SPB)#NES)  ·  #NES(()#SQR(122#SQR)#SPB(L #T)(5&.19443°#SPB)#NES)&LF&SP=5:&+Bc)&-B  #N"
-     "ES(()2#SQR(2#SQR)#SPB(L #T)(135°#SPB)#NES)  ·  #NES(()#SQR(58#SQR)#SPB(L #T)(23&.1986°#SPB)#NES)&LF&"
-     "LF",
+     " ·  #NES(()#SQR(221#SQR)#SPB(L #T)(0&.737815 rad#SPB)#NES)&LF&SP=5:&+Bb)&-B  #NES(()2#SQR(26#SQR)#SP"
+     "B(L #T)(101&.31°#SPB)#NES)  ·  #NES(()#SQR(122#SQR)#SPB(L #T)(5&.19443°#SPB)#NES)&LF&SP=5:&+Bc)&-B  "
+     "#NES(()2#SQR(2#SQR)#SPB(L #T)(135°#SPB)#NES)  ·  #NES(()#SQR(58#SQR)#SPB(L #T)(23&.1986°#SPB)#NES)&L"
+     "F&LF",
      "&SP=10:&-I&+Ba)&-B 13#SQR(85#SQR)#SPB(L #T)(1&.78947 rad#SPB)  =  -26& +& 117&+I& i&-I&SP=50:&-I&+Bb"
      ")&-B 4#SQR(793#SQR)#SPB(L #T)(106&.504°#SPB)  =  -32& +& 108&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 4#SQR(29#"
      "SQR)#SPB(L #T)(158&.199°#SPB)  =  -20& +& 8&+I& i&-I&LF"},
@@ -372,9 +372,9 @@ const Golden kGolden[] = {
     {"0370001234030101",
      "Calculate the following expressions.&LF&SP=5:&+Ba)&-B  (4& +& 7&+I& i&-I)^5&SP=29:&+Bb)&-B  (& -& 2&"
      "+I& i&-I)^5&SP=53:&+Bc)&-B  (9& -& 4&+I& i&-I)^3&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 4225#SQR(65#SQR)#SPB(L #T)(5&.25825 rad#SPB)  =  17684& -& 29113&+I& i&-I&SP=50:&"
-     "-I&+Bb)&-B 32#SPB(L #T)(#COC(3&pi#N)(2#COC) rad#SPB)  =  & -& 32&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 97#SQ"
-     "R(97#SQR)#SPB(L #T)(288&.113°#SPB)  =  297& -& 908&+I& i&-I&LF"},
+     "&SP=10:&-I&+Ba)&-B 4225#SQR(65#SQR)#SPB(L #T)(5&.25825 rad#SPB)  =  17684& -& 29113&+I& i&-I&LF&SP=1"
+     "0:&-I&+Bb)&-B 32#SPB(L #T)(#COC(3&pi#N)(2#COC) rad#SPB)  =  & -& 32&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 97"
+     "#SQR(97#SQR)#SPB(L #T)(288&.113°#SPB)  =  297& -& 908&+I& i&-I&LF"},
     {"0375174071070402",
      "Calculate these expressions involving complex numbers.&LF&SP=5:&+Ba)&-B  (7& +& 8&+I& i&-I)^2&SP=29:"
      "&+Bb)&-B  #NES(()5#SQR(2#SQR)#SPB(L #T)(98&.1301°#SPB)#NES)^4&SP=53:&+Bc)&-B  #NES(()#SQR(73#SQR)#SP"

@@ -38,28 +38,28 @@ const Golden kGolden[] = {
      "&SP=10:sin_ 58° = 0&.848;    cos_ 10° = 0&.9848;    sin_ 148° = 0&.5299&LF"},
     {"0031230456050101",
      "&-I&-BGive a proof of the following trigonometric identities.&LF&SP=1:&+Ba)&-B 4cos &+It&-I = #COC(s"
-     "in 2&+It&-I #N)(1 - cos^2^ &+It&-I #COC)·#COC(sin 2&+It&-I #N)(cos &+It&-I #COC)&SP=48:&+Bb)&-B cota"
-     "n^2^ &+Ix&-I = cos^2^ &+Ix&-I + (cotan &+Ix&-I · cos &+Ix&-I )^2&LF&LF&SP=1:&+Bc)&-B sin &+Ib&-I · c"
-     "os(&+Ia&-I-&+Ib&-I) + cos &+Ib&-I · sin(&+Ia&-I-&+Ib&-I) = sin &+Ia&-I&SP=48:&+Bd)&-B 1 + 2cos 2&+It"
-     "&-I = #COC(sin 5&+It&-I + sin &+It&-I #N)(sin 3&+It&-I - sin &+It&-I #COC)&LF&LF&SP=1:&+Be)&-B #COC("
-     "cosec &+It&-I #N)(1 + cosec &+It&-I #COC) - #COC(cosec &+It&-I #N)(1 - cosec &+It&-I #COC) = 2sec^2^"
-     " &+It&-I &LF&LF",
+     "in 2&+It&-I #N)(1 - cos^2^ &+It&-I #COC)·#COC(sin 2&+It&-I #N)(cos &+It&-I #COC)&LF&LF&SP=1:&+Bb)&-B"
+     " cotan^2^ &+Ix&-I = cos^2^ &+Ix&-I + (cotan &+Ix&-I · cos &+Ix&-I )^2&LF&LF&SP=1:&+Bc)&-B sin &+Ib&-"
+     "I · cos(&+Ia&-I-&+Ib&-I) + cos &+Ib&-I · sin(&+Ia&-I-&+Ib&-I) = sin &+Ia&-I&LF&LF&SP=1:&+Bd)&-B 1 + "
+     "2cos 2&+It&-I = #COC(sin 5&+It&-I + sin &+It&-I #N)(sin 3&+It&-I - sin &+It&-I #COC)&LF&LF&SP=1:&+Be"
+     ")&-B #COC(cosec &+It&-I #N)(1 + cosec &+It&-I #COC) - #COC(cosec &+It&-I #N)(1 - cosec &+It&-I #COC)"
+     " = 2sec^2^ &+It&-I &LF&LF",
      "&SP=10: -&LF"},
     {"0030007001120302",
      "&-I&-BProve the following trigonometric identities.&LF&SP=1:&+Ba)&-B -tan &+I&alfa&-I = #COC(sin 3&+"
-     "I&alfa&-I - sin 5&+I&alfa&-I #N)(cos 3&+I&alfa&-I + cos 5&+I&alfa&-I #COC)&SP=48:&+Bb)&-B #COC(cosec"
-     " &+Ix&-I #N)(1 + cosec &+Ix&-I #COC) - #COC(cosec &+Ix&-I #N)(1 - cosec &+Ix&-I #COC) = 2sec^2^ &+Ix"
-     "&-I &LF&LF&SP=1:&+Bc)&-B #COC(sin 9&+Ix&-I + sin 3&+Ix&-I #N)(cos 9&+Ix&-I + cos 3&+Ix&-I #COC) = ta"
-     "n 6&+Ix&-I &SP=48:&+Bd)&-B sin &+Ix&-I + cos &+Ix&-I · cotan &+Ix&-I = cosec &+Ix&-I &LF&LF&SP=1:&+B"
-     "e)&-B 1 + 2tan^2^ &+Ix&-I + tan^4^ &+Ix&-I = sec^4^ &+Ix&-I &SP=48:&+Bf)&-B (cos &+It&-I + sin &+It&"
-     "-I )^2  =  1 + sin 2&+It&-I &LF&LF&SP=1:&+Bg)&-B #COC(sin 6&+It&-I + sin 2&+It&-I #N)(cos 6&+It&-I +"
-     " cos 2&+It&-I #COC) = tan 4&+It&-I &SP=48:&+Bh)&-B cotan &+It&-I · sec &+It&-I = cosec &+It&-I &LF&L"
-     "F&SP=1:&+Bi)&-B tan^2#NES(()#COC(&+I&alfa&-I+&+I&beta&-I#N)(2#COC)#NES) = #COC(sin &+I&alfa&-I + sin"
-     " &+I&beta&-I#N)(sin &+I&alfa&-I - sin &+I&beta&-I#COC) · #COC(cos &+I&beta&-I - cos &+I&alfa&-I#N)(c"
-     "os &+I&alfa&-I + cos &+I&beta&-I#COC)&SP=48:&+Bj)&-B #COC(cotan &+Ix&-I + tan &+Ix&-I #N)(cotan &+Ix"
-     "&-I - tan &+Ix&-I #COC) = sec 2&+Ix&-I &LF&LF&SP=1:&+Bk)&-B #COC(cos^2^ &+I&alfa&-I #N)(1 - sin &+I&"
-     "alfa&-I #COC) = 1 + sin &+I&alfa&-I &SP=48:&+Bl)&-B tan &+It&-I = #COC(sin 2&+It&-I #N)(1 + cos 2&+I"
-     "t&-I #COC)&LF&LF",
+     "I&alfa&-I - sin 5&+I&alfa&-I #N)(cos 3&+I&alfa&-I + cos 5&+I&alfa&-I #COC)&LF&LF&SP=1:&+Bb)&-B #COC("
+     "cosec &+Ix&-I #N)(1 + cosec &+Ix&-I #COC) - #COC(cosec &+Ix&-I #N)(1 - cosec &+Ix&-I #COC) = 2sec^2^"
+     " &+Ix&-I &LF&LF&SP=1:&+Bc)&-B #COC(sin 9&+Ix&-I + sin 3&+Ix&-I #N)(cos 9&+Ix&-I + cos 3&+Ix&-I #COC)"
+     " = tan 6&+Ix&-I &LF&LF&SP=1:&+Bd)&-B sin &+Ix&-I + cos &+Ix&-I · cotan &+Ix&-I = cosec &+Ix&-I &LF&L"
+     "F&SP=1:&+Be)&-B 1 + 2tan^2^ &+Ix&-I + tan^4^ &+Ix&-I = sec^4^ &+Ix&-I &LF&LF&SP=1:&+Bf)&-B (cos &+It"
+     "&-I + sin &+It&-I )^2  =  1 + sin 2&+It&-I &LF&LF&SP=1:&+Bg)&-B #COC(sin 6&+It&-I + sin 2&+It&-I #N)"
+     "(cos 6&+It&-I + cos 2&+It&-I #COC) = tan 4&+It&-I &LF&LF&SP=1:&+Bh)&-B cotan &+It&-I · sec &+It&-I ="
+     " cosec &+It&-I &LF&LF&SP=1:&+Bi)&-B tan^2#NES(()#COC(&+I&alfa&-I+&+I&beta&-I#N)(2#COC)#NES) = #COC(s"
+     "in &+I&alfa&-I + sin &+I&beta&-I#N)(sin &+I&alfa&-I - sin &+I&beta&-I#COC) · #COC(cos &+I&beta&-I - "
+     "cos &+I&alfa&-I#N)(cos &+I&alfa&-I + cos &+I&beta&-I#COC)&LF&LF&SP=1:&+Bj)&-B #COC(cotan &+Ix&-I + t"
+     "an &+Ix&-I #N)(cotan &+Ix&-I - tan &+Ix&-I #COC) = sec 2&+Ix&-I &LF&LF&SP=1:&+Bk)&-B #COC(cos^2^ &+I"
+     "&alfa&-I #N)(1 - sin &+I&alfa&-I #COC) = 1 + sin &+I&alfa&-I &LF&LF&SP=1:&+Bl)&-B tan &+It&-I = #COC"
+     "(sin 2&+It&-I #N)(1 + cos 2&+It&-I #COC)&LF&LF",
      "&SP=10: -&LF"},
     {"0038998999011010",
      "&-I&-BGive a proof of the following trigonometric identities.&LF&SP=1:&+Ba)&-B #COC(cos &+It&-I - co"

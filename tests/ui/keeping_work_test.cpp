@@ -146,6 +146,32 @@ TEST_F(KeepingWork, APdfNameGetsItsExtensionAndTheNextDialogStartsInItsFolder) {
     EXPECT_EQ(form->LastPdfPath(), folder);
 }
 
+TEST_F(KeepingWork, ACollectionChosenByMistakeForThePdfStaysByteIdentical) {
+    const QString victim = SavedCollection("victim.col");
+    const QByteArray before = Bytes(victim);
+    ASSERT_TRUE(before.startsWith("#CABECERA("));
+    form->printDialog = [](PrintOptions& options) {
+        options.accepted = true;
+        options.pageFlags.fill(true);
+    };
+    QString chosen = victim;
+    form->pdfDialog = [&chosen](const QString&, const QString&) { return chosen; };
+    form->PrintCommand();
+    EXPECT_EQ(Bytes(victim), before);
+    ASSERT_FALSE(messages.empty());
+    EXPECT_EQ(messages.back(), "victim.col is a problem collection: the PDF file is not written over it.\nPlease "
+                               "choose another name.");
+    // Nor is a collection under another name written over.
+    chosen = settingsDir.filePath("disguised.pdf");
+    ASSERT_TRUE(QFile::copy(victim, chosen));
+    form->PrintCommand();
+    EXPECT_EQ(Bytes(chosen), before);
+    // The collection still opens.
+    chosenFile = victim;
+    form->OpenCommand();
+    EXPECT_EQ(app->ProblemCount(), 3);
+}
+
 TEST_F(KeepingWork, ANameTheDialogPassesOnWithoutExtensionGetsItToo) {
     form->NewCommand();
     form->printDialog = [](PrintOptions& options) {

@@ -12,6 +12,15 @@ bool IsPerfectSquare(double p) {
     return root * root == p;
 }
 
+// No square above 1 divides p: its root is already in simplest form, so neither the
+// statement nor the answer shows a root that a pupil would still be asked to simplify.
+bool IsSquareFree(double p) {
+    for (double d = 2; d * d <= p; ++d) {
+        if (std::fmod(p, d * d) == 0) return false;
+    }
+    return true;
+}
+
 std::string Plain(double x) { return PlainNumberText(x); }
 std::string Root(double x) { return "#SQR(" + Plain(x) + "#SQR)"; }
 std::string Frac(const std::string& upper, const std::string& lower) {
@@ -30,7 +39,7 @@ ItemTexts DrawSquareRootRationalisation(GeneratorWorkspace& ws, int type) {
         if (type != 2) m = 1;
         if (Gcd(ws, a, r) != 1 || !IsPrime(ws, r)) return item;
         if (type == 2 && (IsPerfectSquare(r * m) || IsPerfectSquare(m))) return item;
-        if (type == 3 && IsPerfectSquare(r * a)) return item;
+        if (type == 3 && (IsPerfectSquare(r * a) || !IsSquareFree(a))) return item;
         if (type == 3) {
             item.statement = Frac(Root(a), Root(r * m));
             item.solution = Frac(Root(r * a), Plain(r));
@@ -45,7 +54,7 @@ ItemTexts DrawSquareRootRationalisation(GeneratorWorkspace& ws, int type) {
         const double a = RandomInRange(ws, 2, 20, 1, 1);
         const double r = RandomInRange(ws, 2, 50, 1, 1);
         const double c = RandomInRange(ws, 1, 9, 1, 1);
-        if (IsPerfectSquare(r) || c * c == r) return item;
+        if (!IsSquareFree(r) || c * c == r) return item;
         const double d = std::fabs(r - c * c);
         const double g = std::fabs(Gcd(ws, a, d));
         const double a1 = a / g;
@@ -62,7 +71,7 @@ ItemTexts DrawSquareRootRationalisation(GeneratorWorkspace& ws, int type) {
     // A root over a root less a number: √r/(√r - c).
     const double r = RandomInRange(ws, 2, 50, 1, 1);
     const double c = RandomInRange(ws, 2, 9, 1, 1);
-    if (IsPerfectSquare(r) || c * c == r || std::fabs(r - c * c) == 1) return item;
+    if (!IsSquareFree(r) || c * c == r || std::fabs(r - c * c) == 1) return item;
     const double s = r - c * c >= 0 ? 1 : -1;
     const double g = Gcd(ws, Gcd(ws, r, c), std::fabs(r - c * c));
     const double r1 = r / g;

@@ -29,3 +29,5 @@ std::vector<std::string> LetteredItems(const std::string& text, const std::strin
 // mathematics. Failures are reported through GoogleTest.
 void SweepRoutine(const std::string& module, int routine, int seedCount,
                   const std::function<void(const GeneratedProblem&)>& check = {});
+// seedCount, or the share of it that SUMFORGE_SWEEP_FRACTION asks for (at least 310).
+int SweepSeedCount(int seedCount);

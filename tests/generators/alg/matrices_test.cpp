@@ -32,7 +32,7 @@ TEST(MatrixTools, AdjugateTimesMatrixIsTheDeterminant) {
 
 TEST(MatrixEquation, MultiplyingBackGivesC) {
     std::set<std::pair<int, int>> shapes;
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);
         const MatrixEquationData e = BuildMatrixEquation(ws);
@@ -60,7 +60,7 @@ TEST(MatrixEquation, TextShowsTheMatrices) {
 }
 
 TEST(MatrixSystem, SubstitutingTheAnswerGivesAAndB) {
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);
         const MatrixSystemData s = BuildMatrixSystem(ws, 2 + seed % 2);
@@ -84,7 +84,7 @@ TEST(MatrixSystem, SweepAndText) {
 }
 
 TEST(ParameterMatrix, DeterminantVanishesExactlyAtTheTwoRoots) {
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);
         const ParameterMatrixData p = BuildParameterMatrix(ws);

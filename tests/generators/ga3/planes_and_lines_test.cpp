@@ -48,7 +48,7 @@ void ExpectDetermined(const PlaneProblem& q, int seed) {
 } // namespace
 
 TEST(PlaneCalculations, EveryTypeBuildsThePlaneItDescribes) {
-    for (int seed = 0; seed < 2600; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(2600); ++seed) {
         const int type = 1 + seed % 13;
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);
@@ -80,7 +80,7 @@ TEST(PlaneCalculations, EveryTypeBuildsThePlaneItDescribes) {
 }
 
 TEST(LineCalculations, EveryTypeBuildsTheLineItDescribes) {
-    for (int seed = 0; seed < 2400; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(2400); ++seed) {
         const int type = 1 + seed % 8;
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);

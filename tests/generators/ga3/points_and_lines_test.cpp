@@ -30,7 +30,7 @@ bool OnLine(const Line3& l, const Vec3& p) { return AreParallel(p - l.point, l.d
 } // namespace
 
 TEST(PointsProblems, TheAnswerAndOnlyItSolvesTheCondition) {
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         const int type = seed % 4;
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);
@@ -75,7 +75,7 @@ TEST(PointsProblems, SweepTextShowsTheAnswer) {
 }
 
 TEST(TwoLines, BuiltInThePositionAsked) {
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         const int kind = seed % 4;
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);
@@ -112,7 +112,7 @@ TEST(TwoLines, SweepAndEveryPositionOccurs) {
 }
 
 TEST(TwoLinesWithLetter, PositionChangesOnlyAtTheCriticalValue) {
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         const int kind = seed % 3;
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);

@@ -29,7 +29,7 @@ bool Solves(const std::array<Row4, 3>& m, const Vec3& p) {
 } // namespace
 
 TEST(ThreeEquationSystems, WithoutParameterEveryCaseHoldsItsRanks) {
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         const SystemCase kind = static_cast<SystemCase>(seed % 3);
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);
@@ -59,7 +59,7 @@ TEST(ThreeEquationSystems, WithoutParameterEveryCaseHoldsItsRanks) {
 }
 
 TEST(ThreeEquationSystems, WithParameterRankDropsOnlyAtTheCriticalValue) {
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         const SystemCase kind = seed % 2 == 0 ? SystemCase::Incompatible : SystemCase::Indeterminate;
         GeneratorWorkspace ws;
         SeedWorkspace(ws, seed);

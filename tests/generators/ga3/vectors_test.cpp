@@ -30,7 +30,7 @@ double SquareOfRootText(const std::string& text) {
 } // namespace
 
 TEST(SpaceVectors, ConstructionsHoldTheirConditions) {
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         const VectorsProblem p = Build(seed);
         ASSERT_NE(p.h, p.k) << seed;
         switch (p.type) {

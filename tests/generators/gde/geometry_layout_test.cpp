@@ -54,7 +54,7 @@ TEST(BasicGeometrySweep, CurvedSolids) { SweepWithLayout(6, 9); }
 TEST(BasicGeometryEdges, RectangleDiagonalFromATripleIsAlwaysWhole) {
     // Rectangle rows of routines 1 and 3: the diagonal (given or asked) is a whole number.
     GeneratorHub hub;
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         for (int routine : {1, 3}) {
             const int types = routine == 1 ? 10 : 18;
             const int type = seed % types;

@@ -97,7 +97,7 @@ TEST(Areas, BandsOfDifficultyThroughTheGroup) {
             return p.statement.find("& +& #COC(") != std::string::npos ? 1 : 7;
         return 0;  // a polynomial between lines: 4, 5 or 6
     };
-    for (int seed = 10; seed < 8000; seed += 271) {
+    for (int seed = 10; seed < SweepSeedCount(8000); seed += 271) {
         // A group of nine: indexes 1-2 (11 %, 22 %), 3 (33 %) first band; 4-6 second; 7-9 third.
         for (int i = 1; i <= 9; ++i) {
             const GeneratedProblem p = GenerateProblem(hub, "KVOL_MATH_INT", {3, seed, seed + i, 0, 9, i});

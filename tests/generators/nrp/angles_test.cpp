@@ -128,7 +128,7 @@ TEST(Angles, ZeroMinutesAndSecondsAreLeftOut) {
 }
 
 TEST(Angles, SubtractionIsNeverNegative) {
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         GeneratorWorkspace ws;
         ws.stream.Draw(-1);
         ws.stream.SeedStream(seed);

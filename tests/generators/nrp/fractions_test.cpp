@@ -77,7 +77,7 @@ TEST(FractionDrills, DecimalShapes) {
     GeneratorWorkspace ws;
     ws.stream.Draw(-1);
     int shapes[4] = {0, 0, 0, 0};
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         ws.stream.SeedStream(seed);
         const int shape = 1 + seed % 3;
         const DecimalToFractionItem item = DrawDecimalToFraction(ws, shape);

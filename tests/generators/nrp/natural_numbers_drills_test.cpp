@@ -83,7 +83,7 @@ TEST(NaturalNumberDrills, LcmNumbersAreDistinctAndNotTrivial) {
     GeneratorWorkspace ws;
     ws.stream.Draw(-1);
     int threes = 0;
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         ws.stream.SeedStream(seed);
         const int count = seed % 2 == 0 ? 2 : 3;
         const LcmGcmItem item = DrawLcmGcmNumbers(ws, count);

@@ -298,25 +298,23 @@ const Golden kGolden[] = {
      "Convert the following values to fractions:&LF&SP=5:&+Ba)&-B&+I 3&.39&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B #COC(339#N)(100#COC)&LF"},
     {"0230170065040101",
-     "Rationalize the following expressions:&LF&SP=5:&+Ba)&-B #COC(13#N)(#SQR(44#SQR) + 6#COC)&SP=29:&"
-     "+Bb)&-B #COC(6#N)(#SQR(19#SQR) - 6#COC)&SP=53:&+Bc)&-B #COC(#SQR(38#SQR)#N)(#SQR(38#SQR) - 5#COC"
-     ")&SP=76:&+Bd)&-B #COC(5#N)(#SQR(11#SQR)#COC)&LF&LF",
-     "&SP=10:&-I&+Ba)&-B #COC(13_ #SQR(44#SQR) - 78#N)(8#COC)&SP=32:&-I&+Bb)&-B #COC(-6_ #SQR(19#SQR) "
-     "- 36#N)(17#COC)&SP=54:&-I&+Bc)&-B #COC(38 + 5_ #SQR(38#SQR)#N)(13#COC)&SP=76:&-I&+Bd)&-B #COC(5_"
-     " #SQR(11#SQR)#N)(11#COC)&LF&LF"},
+     "Rationalize the following expressions:&LF&SP=5:&+Ba)&-B #COC(6#N)(#SQR(37#SQR) + 9#COC)&SP=29:&+Bb)&"
+     "-B #COC(15#N)(#SQR(42#SQR) - 7#COC)&SP=53:&+Bc)&-B #COC(#SQR(46#SQR)#N)(#SQR(46#SQR) - 5#COC)&SP=76:"
+     "&+Bd)&-B #COC(8#N)(#SQR(7#SQR)#COC)&LF&LF",
+     "&SP=10:&-I&+Ba)&-B #COC(-3_ #SQR(37#SQR) + 27#N)(22#COC)&SP=32:&-I&+Bb)&-B #COC(-15_ #SQR(42#SQR) - "
+     "105#N)(7#COC)&SP=54:&-I&+Bc)&-B #COC(46 + 5_ #SQR(46#SQR)#N)(21#COC)&SP=76:&-I&+Bd)&-B #COC(8_ #SQR("
+     "7#SQR)#N)(7#COC)&LF&LF"},
     {"0233454161090502",
-     "Rationalize the following expressions:&LF&SP=5:&+Ba)&-B #COC(#SQR(47#SQR)#N)(#SQR(47#SQR) - 5#CO"
-     "C)&SP=29:&+Bb)&-B #COC(11#N)(#SQR(7#SQR)#COC)&SP=53:&+Bc)&-B #COC(21#N)(#SQR(39#SQR)#COC)&SP=76:"
-     "&+Bd)&-B #COC(#SQR(19#SQR)#N)(#SQR(3#SQR)#COC)&LF&LF&SP=5:&+Be)&-B #COC(13#N)(#SQR(13#SQR) + 5#C"
-     "OC)&SP=29:&+Bf)&-B #COC(19#N)(#SQR(50#SQR) - 2#COC)&SP=53:&+Bg)&-B #COC(#SQR(34#SQR)#N)(#SQR(34#"
-     "SQR) - 9#COC)&SP=76:&+Bh)&-B #COC(7#N)(#SQR(13#SQR)#COC)&LF&LF&SP=5:&+Bi)&-B #COC(8#N)(#SQR(10#S"
-     "QR)#COC)&LF&LF",
-     "&SP=10:&-I&+Ba)&-B #COC(47 + 5_ #SQR(47#SQR)#N)(22#COC)&SP=32:&-I&+Bb)&-B #COC(11_ #SQR(7#SQR)#N"
-     ")(7#COC)&SP=54:&-I&+Bc)&-B #COC(7_ #SQR(39#SQR)#N)(13#COC)&SP=76:&-I&+Bd)&-B #COC(#SQR(57#SQR)#N"
-     ")(3#COC)&LF&LF&SP=10:&-I&+Be)&-B #COC(-13_ #SQR(13#SQR) + 65#N)(12#COC)&SP=32:&-I&+Bf)&-B #COC(1"
-     "9_ #SQR(50#SQR) + 38#N)(46#COC)&SP=54:&-I&+Bg)&-B #COC(-34 - 9_ #SQR(34#SQR)#N)(47#COC)&SP=76:&-"
-     "I&+Bh)&-B #COC(7_ #SQR(13#SQR)#N)(13#COC)&LF&LF&SP=10:&-I&+Bi)&-B #COC(4_ #SQR(10#SQR)#N)(5#COC)"
-     "&LF&LF"},
+     "Rationalize the following expressions:&LF&SP=5:&+Ba)&-B #COC(#SQR(47#SQR)#N)(#SQR(47#SQR) - 5#COC)&S"
+     "P=29:&+Bb)&-B #COC(11#N)(#SQR(7#SQR)#COC)&SP=53:&+Bc)&-B #COC(21#N)(#SQR(39#SQR)#COC)&SP=76:&+Bd)&-B"
+     " #COC(#SQR(19#SQR)#N)(#SQR(3#SQR)#COC)&LF&LF&SP=5:&+Be)&-B #COC(13#N)(#SQR(13#SQR) + 5#COC)&SP=29:&+"
+     "Bf)&-B #COC(8#N)(#SQR(46#SQR) - 5#COC)&SP=53:&+Bg)&-B #COC(#SQR(3#SQR)#N)(#SQR(11#SQR)#COC)&SP=76:&+"
+     "Bh)&-B #COC(17#N)(#SQR(29#SQR) + 9#COC)&LF&LF&SP=5:&+Bi)&-B #COC(10#N)(#SQR(29#SQR) - 1#COC)&LF&LF",
+     "&SP=10:&-I&+Ba)&-B #COC(47 + 5_ #SQR(47#SQR)#N)(22#COC)&SP=32:&-I&+Bb)&-B #COC(11_ #SQR(7#SQR)#N)(7#"
+     "COC)&SP=54:&-I&+Bc)&-B #COC(7_ #SQR(39#SQR)#N)(13#COC)&SP=76:&-I&+Bd)&-B #COC(#SQR(57#SQR)#N)(3#COC)"
+     "&LF&LF&SP=10:&-I&+Be)&-B #COC(-13_ #SQR(13#SQR) + 65#N)(12#COC)&SP=32:&-I&+Bf)&-B #COC(8_ #SQR(46#SQ"
+     "R) + 40#N)(21#COC)&SP=54:&-I&+Bg)&-B #COC(#SQR(33#SQR)#N)(11#COC)&SP=76:&-I&+Bh)&-B #COC(-17_ #SQR(2"
+     "9#SQR) + 153#N)(52#COC)&LF&LF&SP=10:&-I&+Bi)&-B #COC(5_ #SQR(29#SQR) + 5#N)(14#COC)&LF&LF"},
     {"0238998976011010",
      "Rationalize the following expressions:&LF&SP=5:&+Ba)&-B #COC(10#N)(#SQR(6#SQR)#COC)&LF&LF",
      "&SP=10:&-I&+Ba)&-B #COC(5_ #SQR(6#SQR)#N)(3#COC)&LF&LF"},

@@ -89,7 +89,7 @@ TEST(Polynomials, FactorizationsMultiplyBack) {
 
 TEST(Polynomials, RepeatedRootGivesAnExponentAndTheExpandedProduct) {
     int repeated = 0;
-    for (int seed = 0; seed < 3000 && repeated < 50; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000) && repeated < 50; ++seed) {
         GeneratorWorkspace ws = SeededWorkspace(seed);
         const FactoringItem item = MakeFactoringItem(ws);
         for (const RootCount& g : item.groups) {

@@ -72,7 +72,7 @@ TEST(SquareRootSums, AreRight) {
 TEST(SquareRootSums, TermsCombine) {
     GeneratorWorkspace ws;
     ws.stream.Draw(-1);
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         ws.stream.SeedStream(seed);
         const int terms = 2 + seed % 3;
         const SquareRootSumItem item = DrawSquareRootSum(ws, terms);
@@ -122,7 +122,7 @@ TEST(SingleRoots, StatementAlwaysReducesToOneRoot) {
 TEST(SingleRoots, EveryTypeDrawsItsRecord) {
     GeneratorWorkspace ws;
     ws.stream.Draw(-1);
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         ws.stream.SeedStream(seed);
         const SingleRootItem item = DrawSingleRoot(ws, 1 + seed % 6);
         if (item.texts.statement.empty()) continue;
@@ -233,7 +233,7 @@ TEST(SquareRootRationalisation, EveryTypeGivesReducedAnswers) {
     GeneratorWorkspace ws;
     ws.stream.Draw(-1);
     int made[7] = {};
-    for (int seed = 0; seed < 6000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(6000); ++seed) {
         ws.stream.SeedStream(seed);
         const int type = 1 + seed % 6;
         const ItemTexts item = DrawSquareRootRationalisation(ws, type);
@@ -251,6 +251,28 @@ TEST(SquareRootRationalisation, EveryTypeGivesReducedAnswers) {
         }
     }
     for (int type = 1; type <= 6; ++type) EXPECT_GT(made[type], 50) << type;
+}
+
+TEST(SquareRootRationalisation, EveryRootIsInSimplestForm) {
+    // A root such as the square root of 28 or of 4, in the statement or the answer, is one the
+    // pupil would still have to simplify: neither may show one.
+    static const std::regex root(R"(#SQR\((\d+)#SQR\))");
+    const auto squareFree = [](long long n) {
+        for (long long d = 2; d * d <= n; ++d) {
+            if (n % (d * d) == 0) return false;
+        }
+        return true;
+    };
+    int roots = 0;
+    SweepRoutine("KVOL_MATH_NRP", 23, 2500, [&](const GeneratedProblem& p) {
+        for (const std::string* text : {&p.statement, &p.solution}) {
+            for (auto it = std::sregex_iterator(text->begin(), text->end(), root); it != std::sregex_iterator(); ++it) {
+                ++roots;
+                EXPECT_TRUE(squareFree(std::stoll((*it)[1]))) << p.code << " " << (*it)[0];
+            }
+        }
+    });
+    EXPECT_GT(roots, 1000);
 }
 
 TEST(NthRootRationalisation, AnswersAreRightWithoutRootsBelow) {
@@ -271,7 +293,7 @@ TEST(NthRootRationalisation, BothTypes) {
     GeneratorWorkspace ws;
     ws.stream.Draw(-1);
     int powers = 0, values = 0;
-    for (int seed = 0; seed < 3000; ++seed) {
+    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
         ws.stream.SeedStream(seed);
         const int type = 1 + seed % 2;
         const ItemTexts item = DrawNthRootRationalisation(ws, type);

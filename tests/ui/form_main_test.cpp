@@ -31,13 +31,13 @@ TEST_F(WindowFixture, AfterLoadOnlyTheFileAndHelpCommandsAreOffered) {
                              "mnu_PROGRAMADOR_LISTAT_S_SIM"})
         EXPECT_FALSE(Item(item)->isVisible()) << item;
     for (int i : {0, 1, 2, 3, 9, 10, 11}) EXPECT_TRUE(ToolVisible(i)) << i;
-    for (int i = 4; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i)) << i;
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i)) << i;
     for (int i : {0, 1, 10, 11}) EXPECT_TRUE(ToolEnabled(i)) << i;
     for (int i : {2, 3, 9}) EXPECT_FALSE(ToolEnabled(i)) << i;
     EXPECT_EQ(form->PageLabel()->text(), "");
-    EXPECT_TRUE(form->ToolButton(9)->toolTip().startsWith("Print ("));
-    EXPECT_EQ(form->ToolButton(0)->property("tag").toString(), "Abrir");
-    EXPECT_EQ(form->ToolButton(11)->toolTip(), "Show help");
+    EXPECT_TRUE(form->ToolButton(ToolPrint)->toolTip().startsWith("Print ("));
+    EXPECT_EQ(form->ToolButton(ToolOpen)->property("tag").toString(), "Abrir");
+    EXPECT_EQ(form->ToolButton(ToolHelp)->toolTip(), "Show help");
     EXPECT_FALSE(form->FirstActivation());
     EXPECT_FALSE(form->Sheet()->isVisible());
 }
@@ -46,7 +46,7 @@ TEST_F(WindowFixture, WithoutTheSettingTheEditingButtonsAreHiddenAndTheItemUnche
     MakeWindow();
     EXPECT_FALSE(Item("mnu_Ver_BotEdic")->isChecked());
     form->NewCommand();
-    for (int i = 4; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i)) << i;
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i)) << i;
     saveAnswer = 2;
     EXPECT_TRUE(form->close());
     EXPECT_EQ(Settings().value("Ver/EdicBotones").toString(), "N");
@@ -56,19 +56,19 @@ TEST_F(WindowFixture, TheEditingButtonsSettingShowsThemWithACollection) {
     Settings().setValue("Ver/EdicBotones", "S");
     MakeWindow();
     EXPECT_TRUE(Item("mnu_Ver_BotEdic")->isChecked());
-    for (int i = 4; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i));
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i));
     form->NewCommand();
-    for (int i = 4; i <= 8; ++i) EXPECT_TRUE(ToolVisible(i)) << i;
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_TRUE(ToolVisible(i)) << i;
     // Undo follows the new collection, cut and copy wait for a selection.
-    EXPECT_TRUE(ToolEnabled(4));
-    EXPECT_FALSE(ToolEnabled(5));
-    EXPECT_FALSE(app->ToolEnabled[6]);
-    EXPECT_FALSE(ToolEnabled(7));
+    EXPECT_TRUE(ToolEnabled(ToolUndo));
+    EXPECT_FALSE(ToolEnabled(ToolRedo));
+    EXPECT_FALSE(app->ToolEnabled[ToolCut]);
+    EXPECT_FALSE(ToolEnabled(ToolCopy));
     Item("mnu_Ver_BotEdic")->trigger();
     EXPECT_FALSE(Item("mnu_Ver_BotEdic")->isChecked());
-    for (int i = 4; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i));
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i));
     // The buttons stand side by side, 60 pixels apart.
-    EXPECT_EQ(form->ToolButton(9)->x() - form->ToolButton(3)->x(), 60);
+    EXPECT_EQ(form->ToolButton(ToolPrint)->x() - form->ToolButton(ToolRecreate)->x(), 60);
 }
 
 TEST_F(WindowFixture, AfterNewTheCollectionIsShownWithItsMenus) {
@@ -203,7 +203,7 @@ TEST_F(WindowFixture, DeletingTheLastProblemReturnsToTheEmptyWindow) {
     EXPECT_FALSE(Item("mnu_File_Save")->isEnabled());
     EXPECT_EQ(form->windowTitle(), "Tolmen - Sumforge");
     EXPECT_EQ(form->PageLabel()->text(), "");
-    for (int i = 6; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i));
+    for (int i = ToolCut; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i));
     // The deletion can be taken back: the Edit menu stays with Undo alone usable.
     EXPECT_TRUE(Item("mnu_Edicion")->isVisible());
     EXPECT_FALSE(Item("mnu_Edicion_Del")->isEnabled());
@@ -222,21 +222,21 @@ TEST_F(WindowFixture, WithTheEditingButtonsTheEmptyWindowOffersUndoAndRedo) {
     Settings().setValue("Ver/EdicBotones", "S");
     MakeWindow();
     form->NewCommand();
-    ASSERT_TRUE(ToolVisible(4));
+    ASSERT_TRUE(ToolVisible(ToolUndo));
     form->SheetMouseMove(QPoint(5, 100));
     const int y = static_cast<int>((app->Marks.MarkTop[0] + app->Marks.MarkBottom[0]) / 2 / 15);
     form->SheetMouseDown(QPoint(5, y), Qt::LeftButton);
     Item("mnu_Edicion_Cut")->trigger();
     ASSERT_EQ(app->ProblemCount(), 0);
-    EXPECT_TRUE(ToolVisible(4) && ToolEnabled(4));
-    EXPECT_TRUE(ToolVisible(5) && !ToolEnabled(5));
-    EXPECT_FALSE(ToolVisible(6));
-    form->ToolButton(4)->click();
+    EXPECT_TRUE(ToolVisible(ToolUndo) && ToolEnabled(ToolUndo));
+    EXPECT_TRUE(ToolVisible(ToolRedo) && !ToolEnabled(ToolRedo));
+    EXPECT_FALSE(ToolVisible(ToolCut));
+    form->ToolButton(ToolUndo)->click();
     EXPECT_EQ(app->ProblemCount(), 1);
-    EXPECT_TRUE(ToolEnabled(5));
-    form->ToolButton(5)->click();
+    EXPECT_TRUE(ToolEnabled(ToolRedo));
+    form->ToolButton(ToolRedo)->click();
     EXPECT_EQ(app->ProblemCount(), 0);
-    EXPECT_TRUE(ToolEnabled(4));
+    EXPECT_TRUE(ToolEnabled(ToolUndo));
 }
 
 TEST_F(WindowFixture, AMarginClickSelectsInvertsAndASecondClickRestores) {
@@ -259,7 +259,7 @@ TEST_F(WindowFixture, AMarginClickSelectsInvertsAndASecondClickRestores) {
     form->SheetMouseDown(QPoint(10, y), Qt::LeftButton);
     EXPECT_EQ(SelectedProblem(*app), 1);
     EXPECT_TRUE(app->Marks.MarkSelected[0]);
-    EXPECT_TRUE(app->ToolEnabled[6]);
+    EXPECT_TRUE(app->ToolEnabled[ToolCut]);
     const QImage selected = form->Sheet()->picture;
     EXPECT_NE(selected, before);
     // Inverted: a white pixel inside the band is black now.
@@ -271,7 +271,7 @@ TEST_F(WindowFixture, AMarginClickSelectsInvertsAndASecondClickRestores) {
     form->SheetMouseDown(QPoint(10, y), Qt::LeftButton);
     EXPECT_FALSE(app->Marks.MarkSelected[0]);
     EXPECT_EQ(form->Sheet()->picture, before);
-    EXPECT_FALSE(app->ToolEnabled[6]);
+    EXPECT_FALSE(app->ToolEnabled[ToolCut]);
     // A click on the text clears a selection.
     form->SheetMouseDown(QPoint(10, y), Qt::LeftButton);
     form->SheetMouseMove(QPoint(300, 100));
@@ -412,12 +412,12 @@ TEST_F(WindowFixture, ThePasteButtonFollowsTheClipboard) {
     QApplication::processEvents();
     form->FollowClipboard();
     EXPECT_TRUE(Item("mnu_Edicion_Paste")->isEnabled());
-    EXPECT_TRUE(ToolEnabled(8));
+    EXPECT_TRUE(ToolEnabled(ToolPaste));
     QGuiApplication::clipboard()->setText("another program's text");
     QApplication::processEvents();
     form->FollowClipboard();
     EXPECT_FALSE(Item("mnu_Edicion_Paste")->isEnabled());
-    EXPECT_FALSE(ToolEnabled(8));
+    EXPECT_FALSE(ToolEnabled(ToolPaste));
 }
 
 TEST_F(WindowFixture, APasteFormOnTheClipboardAtStartEnablesPaste) {

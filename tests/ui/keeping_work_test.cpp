@@ -233,8 +233,8 @@ TEST_F(KeepingWork, ARecentEntryThatCannotBeOpenedLeavesEveryMenuUsable) {
     EXPECT_TRUE(form->findChild<QWidget*>("tbToolbar1")->isEnabled());
     for (const char* item : {"mnu_File_Save", "mnu_File_SaveAs", "mnu_File_Print", "mnu_File_New", "mnu_File_Open"})
         EXPECT_TRUE(Item(item)->isEnabled()) << item;
-    EXPECT_TRUE(ToolEnabled(2));
-    EXPECT_TRUE(ToolEnabled(9));
+    EXPECT_TRUE(ToolEnabled(ToolSave));
+    EXPECT_TRUE(ToolEnabled(ToolPrint));
     EXPECT_TRUE(form->findChild<QWidget*>("ImgLPage")->isVisible());
     // The collection on screen keeps its name and can still be saved there.
     EXPECT_EQ(app->ProblemCount(), 3);

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "core/application_state.h"
+#include "core/tool_slots.h"
 #include "core/page_render.h"
 #include "typesetter/qt_surface.h"
 #include "typesetter/typesetter_state.h"
@@ -180,6 +181,12 @@ public:
 
 private:
     void BuildMenus();
+    QMenu* AddMenu(const QString& name, const QString& caption);
+    void BuildFileMenu();
+    void BuildEditMenu();
+    void BuildCollectionMenu();
+    void BuildViewMenu();
+    void BuildHelpMenu();
     void BuildToolbar();
     void BuildClientArea();
     void ReadSettings();

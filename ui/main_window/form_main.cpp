@@ -15,6 +15,7 @@
 #include <QProcess>
 #include <QScrollBar>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QToolButton>
 #include <QUrl>
@@ -26,6 +27,7 @@
 #include "core/editing.h"
 #include "generators/catalogue.h"
 #include "ui/main_window/main_window_files.h"
+#include "ui/screen_fit.h"
 
 using namespace main_window;
 
@@ -61,12 +63,12 @@ FormMain::FormMain(ApplicationState& app, DialogLauncher launcher, const QString
     app_.TempFolder = typesetter_.TempPictureFolder;
 
     askSave = [this](const QString& text) {
-        const auto answer = QMessageBox::question(this, windowTitle(), text,
+        const auto answer = QMessageBox::question(this, ProgramName(), text,
                                                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         return answer == QMessageBox::Yes ? 1 : answer == QMessageBox::No ? 2 : 0;
     };
     askAbortBusy = [this] {
-        QMessageBox box(QMessageBox::Warning, windowTitle(),
+        QMessageBox box(QMessageBox::Warning, ProgramName(),
                         "This application is busy.\nDo you want to abort it now?.\nYou can lost or damage some "
                         "files.\nPress 'Yes' to abort now.\nPress 'No' to wait.",
                         QMessageBox::Yes | QMessageBox::No, this);
@@ -78,7 +80,7 @@ FormMain::FormMain(ApplicationState& app, DialogLauncher launcher, const QString
         if (icon == MessageIcon::Exclamation || icon == MessageIcon::Warning) kind = QMessageBox::Warning;
         else if (icon == MessageIcon::Stop) kind = QMessageBox::Critical;
         else if (icon == MessageIcon::Question) kind = QMessageBox::Question;
-        QMessageBox box(kind, title.isEmpty() ? windowTitle() : title, text, QMessageBox::Ok, this);
+        QMessageBox box(kind, title.isEmpty() ? ProgramName() : title, text, QMessageBox::Ok, this);
         box.exec();
     };
     fileDialog = [this](const QString& title, const QString& folder, const QString& proposed, bool save) {
@@ -100,7 +102,7 @@ FormMain::FormMain(ApplicationState& app, DialogLauncher launcher, const QString
         return dialog.selectedFiles().first();
     };
     askReplace = [this](const QString& text) {
-        return QMessageBox::question(this, windowTitle(), text, QMessageBox::Yes | QMessageBox::No,
+        return QMessageBox::question(this, ProgramName(), text, QMessageBox::Yes | QMessageBox::No,
                                      QMessageBox::No) == QMessageBox::Yes;
     };
     startProcess = [](const QString& file) {
@@ -116,6 +118,9 @@ FormMain::FormMain(ApplicationState& app, DialogLauncher launcher, const QString
     BuildMenus();
     BuildClientArea();
     BuildToolbar();
+    refitTimer_.setSingleShot(true);
+    refitTimer_.setInterval(60);
+    connect(&refitTimer_, &QTimer::timeout, this, [this] { RefitWidth(); });
 
     // 1..2: disabled while loading; the re-create item and the developer items hidden.
     setEnabled(false);
@@ -139,7 +144,7 @@ FormMain::FormMain(ApplicationState& app, DialogLauncher launcher, const QString
     ToggleEditButtons();
     // 6
     setWindowTitle(QString::fromStdString(app_.ApplicationTitle));
-    resize(1100, 820);
+    FitInsideScreen(*this, QSize(1100, 820));
     // 7
     QCoreApplication::processEvents();
     QCoreApplication::processEvents();
@@ -181,7 +186,10 @@ FormMain::~FormMain() = default;
 void FormMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) Activated();
-    if (event->type() == QEvent::WindowStateChange) QTimer::singleShot(1, this, [this] { Geometry(); });
+    if (event->type() == QEvent::WindowStateChange) QTimer::singleShot(1, this, [this] {
+            Geometry();
+            RefitWidth();
+        });
 }
 
 void FormMain::Activated() {
@@ -237,7 +245,8 @@ void FormMain::SetText(const std::string& text) {
 }
 
 
-void FormMain::SetCaption(const std::string& caption) { setWindowTitle(QString::fromStdString(caption)); }
+// The caption is made from the state, so that the modified mark and "Untitled" are never out of step.
+void FormMain::SetCaption(const std::string&) { RefreshTitle(); }
 void FormMain::SetPageLabel(const std::string& text) { lbPage_->setText(QString::fromStdString(text)); }
 void FormMain::ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
     showMessage(QString::fromStdString(text), QString::fromStdString(title), icon);
@@ -300,7 +309,7 @@ void FormMain::NewCommand() {
 
 void FormMain::OpenCommand() {
     if (!AskSaving()) return;
-    const QString folder = lastPath_.isEmpty() ? ProgramFolder() : lastPath_;
+    const QString folder = StartFolder();
     const QString name = fileDialog("Open", folder, QString(), false);
     if (name.isEmpty()) return;
     SetWaitCursor(true);
@@ -328,12 +337,12 @@ void FormMain::SaveCommand() {
     }
     SetWaitCursor(true);
     SaveFile(app_);
-    if (windowTitle().endsWith('*')) setWindowTitle(windowTitle().chopped(1));
+    RefreshTitle();
     SetWaitCursor(false);
 }
 
 void FormMain::SaveAsCommand() {
-    const QString folder = lastPath_.isEmpty() ? ProgramFolder() : lastPath_;
+    const QString folder = StartFolder();
     const QString proposed = app_.CurrentFileName.empty() ? QString() : recentPaths_[1];
     const QString name = WithExtension(fileDialog("Save problem collection", folder, proposed, true), ".col");
     if (name.isEmpty()) return;
@@ -342,12 +351,38 @@ void FormMain::SaveAsCommand() {
     const std::string kept = app_.CurrentFileName;
     app_.CurrentFileName = name.toStdString();
     if (SaveFile(app_)) {
-        setWindowTitle(QFileInfo(name).fileName() + "  -  " + QString::fromStdString(app_.ApplicationTitle));
         AddRecentFile(name.toStdString());
     } else {
         app_.CurrentFileName = kept;
     }
+    RefreshTitle();
     SetWaitCursor(false);
+}
+
+void FormMain::CloseCollectionCommand() {
+    if (app_.ProblemCount() == 0 || app_.BusyFlag) return;
+    if (!AskSaving()) return;
+    NoColeccion(app_);
+    Geometry();
+}
+
+// The documents folder, not the program's data folder, is where a teacher's files live.
+QString FormMain::StartFolder() const {
+    if (!lastPath_.isEmpty() && QFileInfo(lastPath_).isDir()) return lastPath_;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+void FormMain::RefreshTitle() {
+    const QString program = QString::fromStdString(app_.ApplicationTitle);
+    const bool collection = app_.ProblemCount() > 0;
+    QString title = program;
+    if (!app_.CurrentFileName.empty())
+        title = QFileInfo(QString::fromStdString(app_.CurrentFileName)).fileName() + "[*]  -  " + program;
+    else if (collection)
+        title = "Untitled[*]  -  " + program;
+    if (windowTitle() != title) setWindowTitle(title);
+    setWindowModified(collection && app_.Modified && title.contains("[*]"));
 }
 
 void FormMain::OpenDRAGDROPFiles_Command() {
@@ -413,10 +448,10 @@ void FormMain::DeveloperListSubjects() {
     report += "\r\nTOTAL = " + std::to_string(subjects.size()) + " ASIGNATURAS\r\n";
     SetText(report);
     if (Text() != report) {
-        showMessage("El portapapeles no copia el texto", windowTitle(), MessageIcon::Exclamation);
+        showMessage("El portapapeles no copia el texto", ProgramName(), MessageIcon::Exclamation);
         return;
     }
-    showMessage("Lista de asignaturas copiadas al portapapeles", windowTitle(), MessageIcon::None);
+    showMessage("Lista de asignaturas copiadas al portapapeles", ProgramName(), MessageIcon::None);
 }
 
 void FormMain::DeveloperListTopics(bool withIds) {
@@ -441,12 +476,12 @@ void FormMain::DeveloperListTopics(bool withIds) {
     report += "TOTAL asignaturas = " + std::to_string(subjects.size()) + "\r\n";
     SetText(report);
     if (Text() != report) {
-        showMessage("El portapapeles no copia el texto", windowTitle(), MessageIcon::Exclamation);
+        showMessage("El portapapeles no copia el texto", ProgramName(), MessageIcon::Exclamation);
         return;
     }
     showMessage(withIds ? "Listado de TEMAS copiados al portapapeles"
                         : "Listado de TEMAS (SIN NUMEROS ID) copiados al portapapeles",
-                windowTitle(), MessageIcon::None);
+                ProgramName(), MessageIcon::None);
 }
 
 void FormMain::DeveloperProductData() {
@@ -456,9 +491,9 @@ void FormMain::DeveloperProductData() {
                                "\r\nAPP.path = " + QCoreApplication::applicationDirPath().toStdString() + "\r\n";
     SetText(report);
     if (Text() != report) {
-        showMessage("El portapapeles no copia el texto", windowTitle(), MessageIcon::Exclamation);
+        showMessage("El portapapeles no copia el texto", ProgramName(), MessageIcon::Exclamation);
         return;
     }
-    showMessage("<Datos copiados al portapapeles>", windowTitle(), MessageIcon::None);
+    showMessage("<Datos copiados al portapapeles>", ProgramName(), MessageIcon::None);
 }
 

@@ -57,6 +57,16 @@ QAction* FormMain::Item(const QString& name) const {
 }
 
 
+namespace {
+// The platform's keys for a command; where the platform names none (Save As on some), the
+// key that most desktops use.
+QList<QKeySequence> StandardKeys(QKeySequence::StandardKey key, QKeyCombination fallback) {
+    QList<QKeySequence> keys = QKeySequence::keyBindings(key);
+    if (keys.isEmpty()) keys << QKeySequence(fallback);
+    return keys;
+}
+} // namespace
+
 // One function per menu, so that a new item has one obvious home.
 void FormMain::BuildMenus() {
     BuildFileMenu();
@@ -75,21 +85,24 @@ QMenu* FormMain::AddMenu(const QString& name, const QString& caption) {
 
 void FormMain::BuildFileMenu() {
     QMenu* file = AddMenu("mnu_File", "&File");
-    AddItem(file, "mnu_File_New", "&New collection...", [this] { NewCommand(); });
-    AddItem(file, "mnu_File_Open", "&Open...", [this] { OpenCommand(); });
+    AddItem(file, "mnu_File_New", "&New collection...", [this] { NewCommand(); })->setShortcuts(StandardKeys(QKeySequence::New, Qt::CTRL | Qt::Key_N));
+    AddItem(file, "mnu_File_Open", "&Open...", [this] { OpenCommand(); })->setShortcuts(StandardKeys(QKeySequence::Open, Qt::CTRL | Qt::Key_O));
     AddItem(file, "mnu_File_Repetir", "&Re-create collection", [this] { RecreateCollectionCommand(app_); });
     file->addSeparator();
-    AddItem(file, "mnu_File_Save", "&Save", [this] { SaveCommand(); });
-    AddItem(file, "mnu_File_SaveAs", "Save &as...", [this] { SaveAsCommand(); });
+    AddItem(file, "mnu_File_Save", "&Save", [this] { SaveCommand(); })->setShortcuts(StandardKeys(QKeySequence::Save, Qt::CTRL | Qt::Key_S));
+    AddItem(file, "mnu_File_SaveAs", "Save &as...", [this] { SaveAsCommand(); })->setShortcuts(StandardKeys(QKeySequence::SaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     file->addSeparator();
-    AddItem(file, "mnu_File_Print", "&Print...", [this] { PrintCommand(); });
+    AddItem(file, "mnu_File_Print", "&Print...", [this] { PrintCommand(); })->setShortcuts(StandardKeys(QKeySequence::Print, Qt::CTRL | Qt::Key_P));
+    AddItem(file, "mnu_File_PrintPreview", "Print Pre&view...", [this] { PrintPreviewCommand(); });
+    AddItem(file, "mnu_File_ExportPdf", "&Export as PDF...", [this] { ExportPdfCommand(); });
     zep04_ = file->addSeparator();
     zep04_->setObjectName("zep04");
     items_["zep04"] = zep04_;
     for (int i = 1; i <= kRecentCount; ++i)
         recent_[i] = AddItem(file, QString("mnu_File_Reciente_%1").arg(i), QString(), [this, i] { RecentCommand(i); });
     file->addSeparator();
-    AddItem(file, "mnu_File_Exit", "&Exit", [this] { close(); });
+    AddItem(file, "mnu_File_Close", "&Close", [this] { CloseCollectionCommand(); })->setShortcuts(StandardKeys(QKeySequence::Close, Qt::CTRL | Qt::Key_W));
+    AddItem(file, "mnu_File_Exit", "&Exit", [this] { close(); })->setShortcuts(StandardKeys(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q));
 }
 
 void FormMain::BuildEditMenu() {
@@ -102,14 +115,15 @@ void FormMain::BuildEditMenu() {
         const char* caption;
         std::function<void()> handler;
         bool separatorAfter;
+        QKeySequence::StandardKey key = QKeySequence::UnknownKey;
     };
     const std::vector<EditItem> editItems = {
-        {"Undo", "Cannot undo", [this] { UndoCommand(app_); }, false},
-        {"Redo", "Cannot redo", [this] { RedoCommand(app_); }, true},
-        {"Cut", "Cu&t", [this] { CutCommand(app_); }, false},
-        {"Copy", "&Copy", [this] { CopyCommand(app_); }, false},
-        {"Paste", "&Paste", [this] { PasteCommand(app_); }, false},
-        {"Del", "&Delete", [this] { DeleteCommand(app_); }, true},
+        {"Undo", "Cannot undo", [this] { UndoCommand(app_); }, false, QKeySequence::Undo},
+        {"Redo", "Cannot redo", [this] { RedoCommand(app_); }, true, QKeySequence::Redo},
+        {"Cut", "Cu&t", [this] { CutCommand(app_); }, false, QKeySequence::Cut},
+        {"Copy", "&Copy", [this] { CopyCommand(app_); }, false, QKeySequence::Copy},
+        {"Paste", "&Paste", [this] { PasteCommand(app_); }, false, QKeySequence::Paste},
+        {"Del", "&Delete", [this] { DeleteCommand(app_); }, true, QKeySequence::Delete},
         {"Mover_0", "Move to the &beginning", [this] { MoveCommand(app_, 0); }, false},
         {"Mover_1", "Move to the &end", [this] { MoveCommand(app_, 1); }, false},
         {"Mover_2", "Move &up", [this] { MoveCommand(app_, 2); }, false},
@@ -119,7 +133,9 @@ void FormMain::BuildEditMenu() {
     };
     for (const auto& e : editItems) {
         const QString name = QString("mnu_Edicion_") + e.ending;
-        AddItem(edit, name, e.caption, e.handler);
+        QAction* item = AddItem(edit, name, e.caption, e.handler);
+        // Only the menu's item owns the key: two actions with one key would block each other.
+        if (e.key != QKeySequence::UnknownKey) item->setShortcuts(e.key);
         // The popup's twin calls the menu's item.
         AddItem(cmnuEdicion_, "c" + name, e.caption, [this, name] { Item(name)->trigger(); });
         if (e.separatorAfter) {
@@ -170,12 +186,26 @@ void FormMain::BuildViewMenu() {
         });
         a->setCheckable(true);
     }
+    Item("mnu_zoom100")->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
+    zoomMenu_->addSeparator();
+    QAction* zoomIn = AddItem(zoomMenu_, "mnu_zoomIn", "Zoom &in", [this] { ZoomStep(+1); });
+    // Ctrl+= as well: on most keyboards "+" needs Shift.
+    zoomIn->setShortcuts(QKeySequence::keyBindings(QKeySequence::ZoomIn) << QKeySequence(Qt::CTRL | Qt::Key_Equal));
+    AddItem(zoomMenu_, "mnu_zoomOut", "Zoom &out", [this] { ZoomStep(-1); })->setShortcuts(QKeySequence::ZoomOut);
+
+    view->addSeparator();
+    AddItem(view, "mnu_Ver_PagePrev", "&Previous page", [this] { PreviousPage(); })->setShortcut(Qt::Key_PageUp);
+    AddItem(view, "mnu_Ver_PageNext", "&Next page", [this] { NextPage(); })->setShortcut(Qt::Key_PageDown);
+    AddItem(view, "mnu_Ver_PageFirst", "&First page", [this] { FirstPage(); })->setShortcut(Qt::Key_Home);
+    AddItem(view, "mnu_Ver_PageLast", "&Last page", [this] { LastPage(); })->setShortcut(Qt::Key_End);
 }
 
 void FormMain::BuildHelpMenu() {
     helpMenu_ = AddMenu("mnu_Help", "&Help");
     QAction* manual = AddItem(helpMenu_, "mnu_Help_Manual", "User's Manual (PDF document)...", [this] { ManualCommand(); });
-    manual->setShortcut(QKeySequence(Qt::Key_F1));
+    QList<QKeySequence> help = QKeySequence::keyBindings(QKeySequence::HelpContents);
+    if (help.isEmpty()) help << QKeySequence(Qt::Key_F1);
+    manual->setShortcuts(help);
     AddItem(helpMenu_, "mnu_Ayuda_WEB", "Sumforge on the web...", [this] {
         const QString readme = QDir(ProgramFolder()).filePath("README.md");
         if (!openUrl(QUrl::fromLocalFile(readme).toString()))
@@ -286,7 +316,13 @@ void FormMain::ActualizarBotones() {
     const bool shown = app_.ProblemCount() > 0;
     picture1_->setVisible(shown);
     shapeShadow_->setVisible(shown);
+    startScreen_->setVisible(!shown && !app_.BusyFlag);
     vscroll1_->setVisible(shown && verticalNeeded_);
+    for (const char* item : {"mnu_File_PrintPreview", "mnu_File_ExportPdf", "mnu_File_Close"})
+        Item(item)->setEnabled(shown && !app_.BusyFlag);
+    // The keys of the edit items act without the menu having been opened first.
+    PrepareEditMenu(app_);
+    RefreshTitle();
 }
 
 void FormMain::ToggleEditButtons() {

@@ -6,6 +6,7 @@
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPdfWriter>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 
@@ -13,6 +14,7 @@
 #include "core/safe_write.h"
 #include "typesetter/qt_surface.h"
 #include "ui/main_window/main_window_files.h"
+#include "ui/screen_fit.h"
 
 // Printing: the printer, the "PDF file" entry and the pages sent to either.
 
@@ -42,27 +44,9 @@ void FormMain::PrintCommand() {
     if (!options.accepted) return;
     if (printer_ == kPdfPrinterName) {
         QString target = pdfTarget;
-        if (target.isEmpty()) target = ChoosePdfFile();
+        if (target.isEmpty()) target = ChoosePdfFile("Print to PDF file");
         if (target.isEmpty()) return;
-        // Made in memory and written whole before it takes the name, so that a full disk
-        // or a protected file never leaves a broken PDF in place of a good one.
-        QByteArray bytes;
-        {
-            QBuffer buffer(&bytes);
-            buffer.open(QIODevice::WriteOnly);
-            QPdfWriter writer(&buffer);
-            writer.setPageSize(QPageSize(QPageSize::A4));
-            writer.setPageMargins(QMarginsF(0, 0, 0, 0));
-            writer.setResolution(1200);
-            writer.setCreator("Sumforge");
-            writer.setTitle(QString::fromStdString(app_.Settings.Title));
-            PrintPages(writer, options);
-        }
-        const SafeWriteResult written = WriteFileSafely(target.toStdString(), bytes.toStdString());
-        if (!written.ok())
-            showMessage("We are sorry, can't save the file" + QString(written.writeProtected ? ": Write-protected." : ".") +
-                            "\r\nFilename: " + target + "\r\n" + QString::fromStdString(written.reason),
-                        "", MessageIcon::Stop);
+        WritePdf(target, options);
         return;
     }
     QPrinter printer(QPrinterInfo::printerInfo(printer_), QPrinter::HighResolution);
@@ -71,23 +55,82 @@ void FormMain::PrintCommand() {
     PrintPages(printer, options);
 }
 
+namespace {
+PrintOptions EveryPageOnce() {
+    PrintOptions options;
+    options.accepted = true;
+    options.copies = 1;
+    options.pageFlags.fill(true);
+    return options;
+}
+} // namespace
+
+// Straight to a PDF file: the same pages and the same safety as the "PDF file" printer.
+void FormMain::ExportPdfCommand() {
+    if (app_.BlockCount == 0 || app_.ProblemCount() == 0 || app_.BusyFlag) return;
+    const QString target = ChoosePdfFile("Export as PDF");
+    if (target.isEmpty()) return;
+    WritePdf(target, EveryPageOnce());
+}
+
+// The preview is drawn by the printing code itself, so that it shows what prints.
+void FormMain::PrintPreviewCommand() {
+    if (app_.BlockCount == 0 || app_.ProblemCount() == 0 || app_.BusyFlag) return;
+    QPrinter printer(QPrinter::HighResolution);
+    if (printer_ != kPdfPrinterName && QPrinterInfo::availablePrinterNames().contains(printer_))
+        printer.setPrinterName(printer_);
+    printer.setFullPage(true);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setDocName(QString::fromStdString(app_.Settings.Title));
+    QPrintPreviewDialog dialog(&printer, this);
+    dialog.setObjectName("PrintPreviewDialog");
+    dialog.setWindowTitle("Print Preview");
+    const PrintOptions options = EveryPageOnce();
+    connect(&dialog, &QPrintPreviewDialog::paintRequested, this,
+            [this, &options](QPrinter* target) { PrintPages(*target, options); });
+    FitInsideScreen(dialog, QSize(900, 1000));
+    dialog.exec();
+}
+
+// Made in memory and written whole before it takes the name, so that a full disk or a
+// protected file never leaves a broken PDF in place of a good one.
+void FormMain::WritePdf(const QString& target, const PrintOptions& options) {
+    QByteArray bytes;
+    {
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QPdfWriter writer(&buffer);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+        writer.setResolution(1200);
+        writer.setCreator("Sumforge");
+        writer.setTitle(QString::fromStdString(app_.Settings.Title));
+        PrintPages(writer, options);
+    }
+    const SafeWriteResult written = WriteFileSafely(target.toStdString(), bytes.toStdString());
+    if (!written.ok())
+        showMessage("We are sorry, can't save the file" + QString(written.writeProtected ? ": Write-protected." : ".") +
+                        "\r\nFilename: " + target + "\r\n" + QString::fromStdString(written.reason),
+                    "", MessageIcon::Stop);
+}
+
 // The PDF file to print to: its own dialog, ".pdf" added when missing, never a collection.
-QString FormMain::ChoosePdfFile() {
-    const QString folder = !lastPdfPath_.isEmpty() ? lastPdfPath_ : lastPath_.isEmpty() ? ProgramFolder() : lastPath_;
-    const QString chosen = pdfDialog("Print to PDF file", folder);
+QString FormMain::ChoosePdfFile(const QString& title) {
+    const QString folder = !lastPdfPath_.isEmpty() ? lastPdfPath_ : StartFolder();
+    const QString chosen = pdfDialog(title, folder);
     if (chosen.isEmpty()) return QString();
     if (IsCollectionFile(chosen)) {
         showMessage(QFileInfo(chosen).fileName() +
                         " is a problem collection: the PDF file is not written over it.\nPlease choose "
                         "another name.",
-                    windowTitle(), MessageIcon::Exclamation);
+                    ProgramName(), MessageIcon::Exclamation);
         return QString();
     }
     const QString name = WithExtension(chosen, ".pdf");
     if (name.isEmpty()) return QString();
     if (IsCollectionFile(name)) {
         showMessage(QFileInfo(name).fileName() + " is a problem collection: the PDF file is not written over it.",
-                    windowTitle(), MessageIcon::Exclamation);
+                    ProgramName(), MessageIcon::Exclamation);
         return QString();
     }
     lastPdfPath_ = QFileInfo(name).absolutePath();

@@ -95,7 +95,7 @@ void FormMain::RecentCommand(int index) {
         }
     } else {
         SetWaitCursor(false);
-        showMessage("Error: File no exist.", windowTitle(), MessageIcon::Warning);
+        showMessage("Error: File no exist.", ProgramName(), MessageIcon::Warning);
     }
     SetWaitCursor(false);
     Geometry();

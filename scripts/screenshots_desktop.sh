@@ -77,9 +77,8 @@ session() {
   xdotool windowactivate --sync "$main"
   sleep 1
   shoot "$main" "$tag-main-window"
-  # Maximised: the page is fitted to the new width.
-  xdotool key super+Up >/dev/null 2>&1 || true
-  xdotool windowsize "$main" 100% 100%
+  # Larger: the page is fitted to the new width.
+  xdotool windowsize "$main" 90% 88%
   sleep 2
   shoot "$main" "$tag-main-window-wide"
 
@@ -100,7 +99,8 @@ session() {
   local wizard
   wizard=$(window "Wizard")
   shoot "$wizard" "$tag-wizard-start"
-  keys Return
+  # Next, at its place in the wizard's layout (780 by 540 at scale 1).
+  click "$wizard" $((603 * scale)) $((516 * scale))
   keys Right Right Tab
   shoot "$wizard" "$tag-wizard-subject"
   keys Escape

@@ -149,7 +149,8 @@ FrmPropCol::FrmPropCol(ApplicationState& app, QWidget* parent) : QDialog(parent)
     order << CmdNext << CmdCancel;
     for (int i = 0; i + 1 < order.size(); ++i) setTabOrder(order[i], order[i + 1]);
     ShowTab(1);
-    FitInsideScreen(*this, QSize(680, 340));
+    // Wide enough for the colour strip beside its caption.
+    FitInsideScreen(*this, QSize(820, 340));
 }
 
 // The first control of the tab in front takes the focus.

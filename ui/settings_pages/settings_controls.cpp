@@ -420,7 +420,10 @@ SectionFrame* SettingsControls::ProblemNumbersSection() {
     layout->setColumnStretch(6, 1);
     // The strip stands on its caption's line, and the rows keep to the top of the frame.
     auto* colour = new QHBoxLayout;
-    colour->addWidget(Caption("Highlight color for problem number"));
+    QLabel* colourCaption = Caption("Highlight color for problem number");
+    colourCaption->setWordWrap(true);
+    colourCaption->setMaximumWidth(150);
+    colour->addWidget(colourCaption);
     colour->addSpacing(8);
     colour->addWidget(Picture2, 0, Qt::AlignVCenter);
     colour->addStretch();

@@ -422,7 +422,7 @@ SectionFrame* SettingsControls::ProblemNumbersSection() {
     auto* colour = new QHBoxLayout;
     QLabel* colourCaption = Caption("Highlight color for problem number");
     colourCaption->setWordWrap(true);
-    colourCaption->setMaximumWidth(150);
+    colourCaption->setFixedWidth(colourCaption->fontMetrics().horizontalAdvance("Highlight color for") + 6);
     colour->addWidget(colourCaption);
     colour->addSpacing(8);
     colour->addWidget(Picture2, 0, Qt::AlignVCenter);

@@ -80,6 +80,7 @@ FormMain::FormMain(ApplicationState& app, DialogLauncher launcher, const QString
         if (icon == MessageIcon::Exclamation || icon == MessageIcon::Warning) kind = QMessageBox::Warning;
         else if (icon == MessageIcon::Stop) kind = QMessageBox::Critical;
         else if (icon == MessageIcon::Question) kind = QMessageBox::Question;
+        // A box without a title of its own takes the program's name: an empty one shows as "...".
         QMessageBox box(kind, title.isEmpty() ? ProgramName() : title, text, QMessageBox::Ok, this);
         box.exec();
     };

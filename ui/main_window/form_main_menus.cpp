@@ -94,7 +94,7 @@ void FormMain::BuildFileMenu() {
     file->addSeparator();
     AddItem(file, "mnu_File_Print", "&Print...", [this] { PrintCommand(); })->setShortcuts(StandardKeys(QKeySequence::Print, Qt::CTRL | Qt::Key_P));
     AddItem(file, "mnu_File_PrintPreview", "Print Pre&view...", [this] { PrintPreviewCommand(); });
-    AddItem(file, "mnu_File_ExportPdf", "&Export as PDF...", [this] { ExportPdfCommand(); });
+    AddItem(file, "mnu_File_ExportPdf", "Export as P&DF...", [this] { ExportPdfCommand(); });
     zep04_ = file->addSeparator();
     zep04_->setObjectName("zep04");
     items_["zep04"] = zep04_;

@@ -19,7 +19,7 @@ void Key(FormMain& form, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifi
 
 TEST_F(WindowFixture, AfterLoadOnlyTheFileAndHelpCommandsAreOffered) {
     MakeWindow();
-    EXPECT_EQ(form->windowTitle(), "Tolmen - Sumforge");
+    EXPECT_EQ(ShownTitle(), "Tolmen - Sumforge");
     EXPECT_FALSE(Item("mnu_Edicion")->isVisible());
     EXPECT_FALSE(Item("mnu_COLEC")->isVisible());
     EXPECT_TRUE(Item("mnu_File")->isVisible());
@@ -31,13 +31,13 @@ TEST_F(WindowFixture, AfterLoadOnlyTheFileAndHelpCommandsAreOffered) {
                              "mnu_PROGRAMADOR_LISTAT_S_SIM"})
         EXPECT_FALSE(Item(item)->isVisible()) << item;
     for (int i : {0, 1, 2, 3, 9, 10, 11}) EXPECT_TRUE(ToolVisible(i)) << i;
-    for (int i = 4; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i)) << i;
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i)) << i;
     for (int i : {0, 1, 10, 11}) EXPECT_TRUE(ToolEnabled(i)) << i;
     for (int i : {2, 3, 9}) EXPECT_FALSE(ToolEnabled(i)) << i;
     EXPECT_EQ(form->PageLabel()->text(), "");
-    EXPECT_TRUE(form->ToolButton(9)->toolTip().startsWith("Print ("));
-    EXPECT_EQ(form->ToolButton(0)->property("tag").toString(), "Abrir");
-    EXPECT_EQ(form->ToolButton(11)->toolTip(), "Show help");
+    EXPECT_TRUE(form->ToolButton(ToolPrint)->toolTip().startsWith("Print ("));
+    EXPECT_EQ(form->ToolButton(ToolOpen)->property("tag").toString(), "Abrir");
+    EXPECT_EQ(form->ToolButton(ToolHelp)->toolTip(), "Show help");
     EXPECT_FALSE(form->FirstActivation());
     EXPECT_FALSE(form->Sheet()->isVisible());
 }
@@ -46,7 +46,7 @@ TEST_F(WindowFixture, WithoutTheSettingTheEditingButtonsAreHiddenAndTheItemUnche
     MakeWindow();
     EXPECT_FALSE(Item("mnu_Ver_BotEdic")->isChecked());
     form->NewCommand();
-    for (int i = 4; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i)) << i;
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i)) << i;
     saveAnswer = 2;
     EXPECT_TRUE(form->close());
     EXPECT_EQ(Settings().value("Ver/EdicBotones").toString(), "N");
@@ -56,19 +56,19 @@ TEST_F(WindowFixture, TheEditingButtonsSettingShowsThemWithACollection) {
     Settings().setValue("Ver/EdicBotones", "S");
     MakeWindow();
     EXPECT_TRUE(Item("mnu_Ver_BotEdic")->isChecked());
-    for (int i = 4; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i));
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i));
     form->NewCommand();
-    for (int i = 4; i <= 8; ++i) EXPECT_TRUE(ToolVisible(i)) << i;
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_TRUE(ToolVisible(i)) << i;
     // Undo follows the new collection, cut and copy wait for a selection.
-    EXPECT_TRUE(ToolEnabled(4));
-    EXPECT_FALSE(ToolEnabled(5));
-    EXPECT_FALSE(app->ToolEnabled[6]);
-    EXPECT_FALSE(ToolEnabled(7));
+    EXPECT_TRUE(ToolEnabled(ToolUndo));
+    EXPECT_FALSE(ToolEnabled(ToolRedo));
+    EXPECT_FALSE(app->ToolEnabled[ToolCut]);
+    EXPECT_FALSE(ToolEnabled(ToolCopy));
     Item("mnu_Ver_BotEdic")->trigger();
     EXPECT_FALSE(Item("mnu_Ver_BotEdic")->isChecked());
-    for (int i = 4; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i));
+    for (int i = ToolUndo; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i));
     // The buttons stand side by side, 60 pixels apart.
-    EXPECT_EQ(form->ToolButton(9)->x() - form->ToolButton(3)->x(), 60);
+    EXPECT_EQ(form->ToolButton(ToolPrint)->x() - form->ToolButton(ToolRecreate)->x(), 60);
 }
 
 TEST_F(WindowFixture, AfterNewTheCollectionIsShownWithItsMenus) {
@@ -128,7 +128,7 @@ TEST_F(WindowFixture, SaveAsOpenAndRecentFiles) {
     MakeWindow();
     const QString path = SavedCollection("first.col");
     ASSERT_TRUE(QFile::exists(path));
-    EXPECT_EQ(form->windowTitle(), "first.col  -  Tolmen - Sumforge");
+    EXPECT_EQ(ShownTitle(), "first.col  -  Tolmen - Sumforge");
     EXPECT_EQ(form->RecentPaths().first(), path);
     EXPECT_EQ(form->LastPath(), settingsDir.path());
     EXPECT_FALSE(app->Modified);
@@ -147,7 +147,7 @@ TEST_F(WindowFixture, SaveAsOpenAndRecentFiles) {
     form->OpenCommand();
     EXPECT_EQ(app->ProblemCount(), 3);
     EXPECT_EQ(app->PageCount, pages);
-    EXPECT_EQ(form->windowTitle(), "first.col  -  Tolmen - Sumforge");
+    EXPECT_EQ(ShownTitle(), "first.col  -  Tolmen - Sumforge");
     EXPECT_TRUE(Item("mnu_Edicion")->isVisible());
     EXPECT_EQ(Item("mnu_Edicion_Undo")->text(), "Cannot undo");
     EXPECT_EQ(form->PageLabel()->text(), QString("Pag. 1/%1").arg(pages));
@@ -201,9 +201,9 @@ TEST_F(WindowFixture, DeletingTheLastProblemReturnsToTheEmptyWindow) {
     Item("mnu_Edicion_Del")->trigger();
     EXPECT_EQ(app->ProblemCount(), 0);
     EXPECT_FALSE(Item("mnu_File_Save")->isEnabled());
-    EXPECT_EQ(form->windowTitle(), "Tolmen - Sumforge");
+    EXPECT_EQ(ShownTitle(), "Tolmen - Sumforge");
     EXPECT_EQ(form->PageLabel()->text(), "");
-    for (int i = 6; i <= 8; ++i) EXPECT_FALSE(ToolVisible(i));
+    for (int i = ToolCut; i <= ToolPaste; ++i) EXPECT_FALSE(ToolVisible(i));
     // The deletion can be taken back: the Edit menu stays with Undo alone usable.
     EXPECT_TRUE(Item("mnu_Edicion")->isVisible());
     EXPECT_FALSE(Item("mnu_Edicion_Del")->isEnabled());
@@ -222,24 +222,24 @@ TEST_F(WindowFixture, WithTheEditingButtonsTheEmptyWindowOffersUndoAndRedo) {
     Settings().setValue("Ver/EdicBotones", "S");
     MakeWindow();
     form->NewCommand();
-    ASSERT_TRUE(ToolVisible(4));
+    ASSERT_TRUE(ToolVisible(ToolUndo));
     form->SheetMouseMove(QPoint(5, 100));
     const int y = static_cast<int>((app->Marks.MarkTop[0] + app->Marks.MarkBottom[0]) / 2 / 15);
     form->SheetMouseDown(QPoint(5, y), Qt::LeftButton);
     Item("mnu_Edicion_Cut")->trigger();
     ASSERT_EQ(app->ProblemCount(), 0);
-    EXPECT_TRUE(ToolVisible(4) && ToolEnabled(4));
-    EXPECT_TRUE(ToolVisible(5) && !ToolEnabled(5));
-    EXPECT_FALSE(ToolVisible(6));
-    form->ToolButton(4)->click();
+    EXPECT_TRUE(ToolVisible(ToolUndo) && ToolEnabled(ToolUndo));
+    EXPECT_TRUE(ToolVisible(ToolRedo) && !ToolEnabled(ToolRedo));
+    EXPECT_FALSE(ToolVisible(ToolCut));
+    form->ToolButton(ToolUndo)->click();
     EXPECT_EQ(app->ProblemCount(), 1);
-    EXPECT_TRUE(ToolEnabled(5));
-    form->ToolButton(5)->click();
+    EXPECT_TRUE(ToolEnabled(ToolRedo));
+    form->ToolButton(ToolRedo)->click();
     EXPECT_EQ(app->ProblemCount(), 0);
-    EXPECT_TRUE(ToolEnabled(4));
+    EXPECT_TRUE(ToolEnabled(ToolUndo));
 }
 
-TEST_F(WindowFixture, AMarginClickSelectsInvertsAndASecondClickRestores) {
+TEST_F(WindowFixture, AMarginClickSelectsHighlightsAndASecondClickClears) {
     wantedProblems = 3;
     MakeWindow();
     form->NewCommand();
@@ -259,19 +259,33 @@ TEST_F(WindowFixture, AMarginClickSelectsInvertsAndASecondClickRestores) {
     form->SheetMouseDown(QPoint(10, y), Qt::LeftButton);
     EXPECT_EQ(SelectedProblem(*app), 1);
     EXPECT_TRUE(app->Marks.MarkSelected[0]);
-    EXPECT_TRUE(app->ToolEnabled[6]);
-    const QImage selected = form->Sheet()->picture;
-    EXPECT_NE(selected, before);
-    // Inverted: a white pixel inside the band is black now.
-    const int bandY = static_cast<int>(app->Marks.MarkTop[0] / 15) + 1;
-    for (int x : {100, 200, 400})
-        EXPECT_EQ(selected.pixel(x, bandY) & 0xFFFFFF, (before.pixel(x, bandY) ^ 0xFFFFFF) & 0xFFFFFF) << x;
+    EXPECT_TRUE(app->ToolEnabled[ToolCut]);
+    // The page itself is untouched: the selection is drawn over it, in the platform's
+    // highlight colour, translucent.
+    EXPECT_EQ(form->Sheet()->picture, before);
+    ASSERT_EQ(form->Sheet()->selection.size(), 1u);
+    const QRectF band = form->Sheet()->selection[0];
+    EXPECT_NEAR(band.top(), app->Marks.MarkTop[0] / 15, 1);
+    EXPECT_NEAR(band.bottom(), app->Marks.MarkBottom[0] / 15, 1);
+    const QImage shown = form->Sheet()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QColor highlight = form->Sheet()->palette().color(QPalette::Active, QPalette::Highlight);
+    const int bandY = static_cast<int>(app->Marks.MarkTop[0] / 15) + 2;
+    int tinted = 0;
+    for (int x = 100; x < 700; x += 7) {
+        if ((before.pixel(x, bandY) & 0xFFFFFF) != 0xFFFFFF) continue;
+        const QColor c = QColor::fromRgb(shown.pixel(x, bandY));
+        // White under the highlight at alpha 70: each channel moves a quarter of the way.
+        EXPECT_NEAR(c.red(), 255 - (255 - highlight.red()) * 70 / 255, 3) << x;
+        EXPECT_NEAR(c.blue(), 255 - (255 - highlight.blue()) * 70 / 255, 3) << x;
+        ++tinted;
+    }
+    EXPECT_GT(tinted, 20);
     // Left of the margin nothing changes.
-    EXPECT_EQ(selected.pixel(5, bandY), before.pixel(5, bandY));
+    EXPECT_EQ(shown.pixel(5, bandY), before.pixel(5, bandY));
     form->SheetMouseDown(QPoint(10, y), Qt::LeftButton);
     EXPECT_FALSE(app->Marks.MarkSelected[0]);
-    EXPECT_EQ(form->Sheet()->picture, before);
-    EXPECT_FALSE(app->ToolEnabled[6]);
+    EXPECT_TRUE(form->Sheet()->selection.empty());
+    EXPECT_FALSE(app->ToolEnabled[ToolCut]);
     // A click on the text clears a selection.
     form->SheetMouseDown(QPoint(10, y), Qt::LeftButton);
     form->SheetMouseMove(QPoint(300, 100));
@@ -412,12 +426,12 @@ TEST_F(WindowFixture, ThePasteButtonFollowsTheClipboard) {
     QApplication::processEvents();
     form->FollowClipboard();
     EXPECT_TRUE(Item("mnu_Edicion_Paste")->isEnabled());
-    EXPECT_TRUE(ToolEnabled(8));
+    EXPECT_TRUE(ToolEnabled(ToolPaste));
     QGuiApplication::clipboard()->setText("another program's text");
     QApplication::processEvents();
     form->FollowClipboard();
     EXPECT_FALSE(Item("mnu_Edicion_Paste")->isEnabled());
-    EXPECT_FALSE(ToolEnabled(8));
+    EXPECT_FALSE(ToolEnabled(ToolPaste));
 }
 
 TEST_F(WindowFixture, APasteFormOnTheClipboardAtStartEnablesPaste) {
@@ -498,7 +512,7 @@ TEST_F(WindowFixture, AnUnquotedPathWithBlanksOpens) {
     form->close();
     MakeWindow(path);
     EXPECT_EQ(app->ProblemCount(), 3);
-    EXPECT_EQ(form->windowTitle(), "with blanks in it.col  -  Tolmen - Sumforge");
+    EXPECT_EQ(ShownTitle(), "with blanks in it.col  -  Tolmen - Sumforge");
 }
 
 TEST_F(WindowFixture, APathWithATildeIsExpandedBeforeOpening) {

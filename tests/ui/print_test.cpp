@@ -254,7 +254,7 @@ TEST_F(WindowFixture, ThePdfEntryIsAlwaysOffered) {
     MakeWindow();
     EXPECT_EQ(form->PrinterNames().last(), kPdfPrinterName);
     form->SetPrinter(kPdfPrinterName);
-    EXPECT_EQ(form->ToolButton(9)->toolTip(), QString("Print (") + kPdfPrinterName + ")");
+    EXPECT_EQ(form->ToolButton(ToolPrint)->toolTip(), QString("Print (") + kPdfPrinterName + ")");
 }
 
 TEST_F(PrintingTest, WriteProtectedPdfFileIsKeptAndSaysWhy) {

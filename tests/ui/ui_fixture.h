@@ -92,6 +92,11 @@ struct WindowFixture : public ::testing::Test {
     }
 
     QAction* Item(const char* name) { return form->Item(name); }
+    // The title as the title bar shows it: the "[*]" place holds the modified mark or nothing.
+    QString ShownTitle() {
+        QString title = form->windowTitle();
+        return title.replace("[*]", form->isWindowModified() ? "*" : "");
+    }
     bool ToolVisible(int i) { return !form->ToolButton(i)->isHidden(); }
     bool ToolEnabled(int i) { return form->ToolButton(i)->isEnabled(); }
 

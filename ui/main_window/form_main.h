@@ -3,12 +3,15 @@
 #include <QImage>
 #include <QMainWindow>
 #include <QStringList>
+#include <QTimer>
+#include <vector>
 #include <array>
 #include <functional>
 #include <map>
 #include <memory>
 
 #include "core/application_state.h"
+#include "core/tool_slots.h"
 #include "core/page_render.h"
 #include "typesetter/qt_surface.h"
 #include "typesetter/typesetter_state.h"
@@ -36,6 +39,9 @@ QStringList ReadCommandLine(const QString& line);
 
 class FormMain;
 
+// What a problem dragged on the sheet carries: its number.
+inline constexpr const char* kProblemMimeType = "application/x-sumforge-problem";
+
 // The visible sheet: keeps its own picture, so that repaints cost nothing.
 class SheetView : public QWidget {
     Q_OBJECT
@@ -44,17 +50,22 @@ public:
     QImage picture;
     // "Normal" over the text, "Edición" over the left margin.
     QString tag = "Normal";
+    // The selected problem's bands, drawn over the picture.
+    std::vector<QRectF> selection;
 
 protected:
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
     FormMain& form_;
+    QPoint dragStart_;
+    int dragProblem_ = 0;
 };
 
 // The main window. It is the clipboard, menus, page view and measuring surface of the
@@ -68,6 +79,8 @@ public:
     ~FormMain() override;
 
     ApplicationState& App() { return app_; }
+    // The title of the program's own message boxes.
+    QString ProgramName() const { return QString::fromStdString(app_.ApplicationTitle); }
     QAction* Item(const QString& name) const;
     QToolButton* ToolButton(int index) const { return tools_[index]; }
     SheetView* Sheet() const { return picture1_; }
@@ -106,6 +119,16 @@ public:
     void FitWidthCommand();
     void PreviousPage();
     void NextPage();
+    void FirstPage();
+    void LastPage();
+    // One step along the zoom items: +1 larger, -1 smaller.
+    void ZoomStep(int direction);
+    void PrintPreviewCommand();
+    void ExportPdfCommand();
+    // Leaves the collection (after the saving question) for the empty start screen.
+    void CloseCollectionCommand();
+    // The title bar: file name or "Untitled", and the modified mark while changes are unsaved.
+    void RefreshTitle();
     void ToggleEditButtons();
     void ManualCommand();
     void ShowDeveloperItems();
@@ -164,6 +187,11 @@ public:
     // The sheet's pointer and clicks (in sheet pixels).
     void SheetMouseMove(QPoint position);
     void SheetMouseDown(QPoint position, Qt::MouseButton button);
+    // Dragging a problem by its number box (positions in sheet pixels).
+    int ProblemAtNumberBox(QPoint position) const;
+    int ProblemAtHeight(int y) const;
+    QRectF ProblemBand(int problem) const;
+    void MoveProblemTo(int from, int to);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -180,16 +208,29 @@ public:
 
 private:
     void BuildMenus();
+    QMenu* AddMenu(const QString& name, const QString& caption);
+    void BuildFileMenu();
+    void BuildEditMenu();
+    void BuildCollectionMenu();
+    void BuildViewMenu();
+    void BuildHelpMenu();
     void BuildToolbar();
     void BuildClientArea();
     void ReadSettings();
     void ToolClick(int index);
     void Geometry();
     void PageChanged();
-    void InvertBand(int mark);
+    int MarkedProblem(int mark) const;
+    QRectF MarkBand(int mark) const;
+    void ShowSelection();
+    void BuildStartScreen();
+    void RefitWidth();
     void ClearSelection();
     void PrintPages(QPagedPaintDevice& device, const PrintOptions& options);
-    QString ChoosePdfFile();
+    QString ChoosePdfFile(const QString& title);
+    void WritePdf(const QString& target, const PrintOptions& options);
+    // The folder a file dialog opens in: the last one used, else the documents folder.
+    QString StartFolder() const;
     QString WithExtension(const QString& name, const QString& extension);
     QAction* AddItem(QMenu* menu, const QString& name, const QString& caption, std::function<void()> handler);
     QString ProgramFolder() const;
@@ -216,6 +257,8 @@ private:
     QScrollBar* hscroll1_ = nullptr;
     SheetView* picture1_ = nullptr;
     QFrame* shapeShadow_ = nullptr;
+    QWidget* startScreen_ = nullptr;
+    QTimer refitTimer_;
 
     QString lastPath_;
     QString lastPdfPath_;

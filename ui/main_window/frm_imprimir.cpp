@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "core/collection.h"
+#include "ui/screen_fit.h"
 
 namespace {
 // Cuts at "," into at most limit parts; the last part keeps the rest of the text.
@@ -182,7 +183,7 @@ FrmImprimir::FrmImprimir(PrintOptions& options, int currentPage, const QStringLi
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs_);
     layout->addLayout(buttons);
-    resize(420, 260);
+    FitInsideScreen(*this, QSize(420, 260));
 
     // Loading: not accepted, one copy, all pages.
     options_.accepted = false;

@@ -5,13 +5,18 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QKeyEvent>
+#include <QShortcut>
 #include <QVBoxLayout>
 
+#include "ui/screen_fit.h"
 #include "ui/settings_pages/section_frame.h"
 #include "ui/settings_pages/settings_controls.h"
 
 TabLabel::TabLabel(const QString& caption, QWidget* parent) : QLabel(caption, parent) {
     setCursor(Qt::PointingHandCursor);
+    // Reached with Tab like any control; Space or Enter opens it.
+    setFocusPolicy(Qt::StrongFocus);
     setMinimumHeight(30);
     setMargin(6);
     QFont font = this->font();
@@ -26,6 +31,28 @@ void TabLabel::SetSelected(bool selected) {
 
 void TabLabel::mousePressEvent(QMouseEvent*) { emit Clicked(); }
 
+void TabLabel::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter: emit Clicked(); break;
+    case Qt::Key_Up: emit Step(-1); break;
+    case Qt::Key_Down: emit Step(+1); break;
+    default: QLabel::keyPressEvent(event); return;
+    }
+    event->accept();
+}
+
+void TabLabel::focusInEvent(QFocusEvent* event) {
+    QLabel::focusInEvent(event);
+    update();
+}
+
+void TabLabel::focusOutEvent(QFocusEvent* event) {
+    QLabel::focusOutEvent(event);
+    update();
+}
+
 void TabLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -39,6 +66,11 @@ void TabLabel::paintEvent(QPaintEvent*) {
     painter.setPen(QColor(64, 64, 128));
     painter.setFont(font());
     painter.drawText(rect().adjusted(18, 0, -4, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 4, 4);
+    }
 }
 
 FrmPropCol::FrmPropCol(ApplicationState& app, QWidget* parent) : QDialog(parent), app_(app) {
@@ -65,6 +97,11 @@ FrmPropCol::FrmPropCol(ApplicationState& app, QWidget* parent) : QDialog(parent)
         LblTAB[tab]->setMinimumWidth(150);
         tabs->addWidget(LblTAB[tab]);
         connect(LblTAB[tab], &TabLabel::Clicked, this, [this, tab] { ShowTab(tab); });
+        connect(LblTAB[tab], &TabLabel::Step, this, [this, tab](int step) {
+            const int next = (tab - 1 + step + 5) % 5 + 1;
+            ShowTab(next);
+            LblTAB[next]->setFocus();
+        });
         Frame1[tab]->setObjectName(QString("Frame1_%1").arg(tab));
         stack->addWidget(Frame1[tab]);
     }
@@ -74,7 +111,8 @@ FrmPropCol::FrmPropCol(ApplicationState& app, QWidget* parent) : QDialog(parent)
     outer->addLayout(body, 1);
 
     auto* buttons = new QHBoxLayout;
-    CmdNext = new QPushButton("&Aceptar");
+    // The English build's own word: the Spanish one was left on the form's design.
+    CmdNext = new QPushButton("&OK");
     CmdNext->setObjectName("CmdNext");
     CmdCancel = new QPushButton("Cancel");
     CmdCancel->setObjectName("CmdCancel");
@@ -89,10 +127,40 @@ FrmPropCol::FrmPropCol(ApplicationState& app, QWidget* parent) : QDialog(parent)
     connect(CmdNext, &QPushButton::clicked, this, &FrmPropCol::CmdNextClick);
     connect(CmdCancel, &QPushButton::clicked, this, &FrmPropCol::CmdCancelClick);
 
+    // Ctrl+Tab and Ctrl+Shift+Tab step through the tabs, as in every tabbed dialog.
+    auto step = [this](int delta) {
+        ShowTab((tab_ - 1 + delta + 5) % 5 + 1);
+        FocusTab();
+    };
+    for (const QKeySequence& key : {QKeySequence(Qt::CTRL | Qt::Key_Tab), QKeySequence(Qt::CTRL | Qt::Key_PageDown)})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [step] { step(+1); });
+    for (const QKeySequence& key : {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab),
+                                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), QKeySequence(Qt::CTRL | Qt::Key_PageUp)})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [step] { step(-1); });
+
     stack_ = stack;
     controls->LoadControls();
+    // Tab order: the tabs, then the controls of the tab in front, then the buttons.
+    QList<QWidget*> order;
+    for (int tab = 1; tab <= 5; ++tab) order << LblTAB[tab];
+    for (int tab = 1; tab <= 5; ++tab)
+        for (QWidget* child : Frame1[tab]->findChildren<QWidget*>())
+            if (child->focusPolicy() & Qt::TabFocus) order << child;
+    order << CmdNext << CmdCancel;
+    for (int i = 0; i + 1 < order.size(); ++i) setTabOrder(order[i], order[i + 1]);
     ShowTab(1);
-    resize(680, 340);
+    // Wide enough for the colour strip beside its caption.
+    FitInsideScreen(*this, QSize(820, 340));
+}
+
+// The first control of the tab in front takes the focus.
+void FrmPropCol::FocusTab() {
+    QWidget* frame = Frame1[tab_];
+    for (QWidget* child : frame->findChildren<QWidget*>())
+        if (child->isVisibleTo(frame) && child->isEnabled() && (child->focusPolicy() & Qt::TabFocus)) {
+            child->setFocus(Qt::TabFocusReason);
+            return;
+        }
 }
 
 void FrmPropCol::ShowTab(int tab) {

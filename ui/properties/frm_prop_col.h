@@ -17,9 +17,14 @@ public:
     bool Selected() const { return selected_; }
 signals:
     void Clicked();
+    // Up (-1) or Down (+1) on a tab with the focus.
+    void Step(int step);
 
 protected:
     void mousePressEvent(QMouseEvent*) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent*) override;
 
 private:
@@ -38,6 +43,7 @@ public:
     void CmdNextClick();
     void CmdCancelClick();
     void reject() override;
+    void FocusTab();
 
     SettingsControls* controls;
     std::array<TabLabel*, 6> LblTAB{};

@@ -418,8 +418,17 @@ SectionFrame* SettingsControls::ProblemNumbersSection() {
     TxProSuf->setFixedWidth(70);
     layout->addWidget(TxProSuf, 0, 5);
     layout->setColumnStretch(6, 1);
-    layout->addWidget(Caption("Highlight color for problem number"), 1, 0, 1, 7);
-    layout->addWidget(Picture2, 2, 0, 1, 7);
+    // The strip stands on its caption's line, and the rows keep to the top of the frame.
+    auto* colour = new QHBoxLayout;
+    QLabel* colourCaption = Caption("Highlight color for problem number");
+    colourCaption->setWordWrap(true);
+    colourCaption->setFixedWidth(colourCaption->fontMetrics().horizontalAdvance("Highlight color for") + 6);
+    colour->addWidget(colourCaption);
+    colour->addSpacing(8);
+    colour->addWidget(Picture2, 0, Qt::AlignVCenter);
+    colour->addStretch();
+    layout->addLayout(colour, 1, 0, 1, 7);
+    layout->setRowStretch(2, 1);
     return frame;
 }
 

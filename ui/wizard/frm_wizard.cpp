@@ -17,6 +17,7 @@
 
 #include "core/collection.h"
 #include "ui/settings_pages/section_frame.h"
+#include "ui/screen_fit.h"
 #include "ui/settings_pages/settings_controls.h"
 #include "ui/wizard/topic_tree_view.h"
 #include "ui/wizard/wizard_settings.h"
@@ -153,6 +154,8 @@ void FrmWizard::BuildPages() {
         ShaSelec->setStyleSheet("#ShaSelec { border: 2px solid rgb(66,110,215); border-radius: 6px; }");
         ShaSelec->hide();
         frame->setMinimumSize(720, 60 + 66 * 5 + 10);
+        frame->setFocusPolicy(Qt::StrongFocus);
+        frame->installEventFilter(this);
         connect(LstAsig, &QListWidget::itemDoubleClicked, this, [this] {
             if (LstAsig->currentItem()) CmdNextClick();
         });
@@ -162,7 +165,8 @@ void FrmWizard::BuildPages() {
     {
         auto* frame = new SectionFrame("Types of documents");
         auto* layout = new QVBoxLayout(frame);
-        const char* captions[5] = {"", "Questions", "Exercises", "Problems", "Temas de teor\u00EDa"};
+        // The fourth kind in the English build's words: its caption was left in Spanish.
+        const char* captions[5] = {"", "Questions", "Exercises", "Problems", "Theory topics"};
         for (int i = 1; i <= 4; ++i) {
             ChkTIP[i] = new QCheckBox(QString::fromUtf8(captions[i]));
             ChkTIP[i]->setObjectName(QString("ChkTIP_%1").arg(i));
@@ -301,6 +305,7 @@ void FrmWizard::BuildPages() {
     buttons->addSpacing(12);
     buttons->addWidget(CmdCancel);
     outer->addLayout(buttons);
+    for (QPushButton* button : {CmdBack, CmdNext, CmdCancel}) button->installEventFilter(this);
     connect(CmdNext, &QPushButton::clicked, this, &FrmWizard::CmdNextClick);
     connect(CmdBack, &QPushButton::clicked, this, &FrmWizard::CmdBackClick);
     connect(CmdCancel, &QPushButton::clicked, this, &FrmWizard::CmdCancelClick);
@@ -309,7 +314,7 @@ void FrmWizard::BuildPages() {
         pageEnabled_[1] = on;
         if (page_ == 2) CmdBack->setEnabled(on);
     });
-    resize(780, 540);
+    FitInsideScreen(*this, QSize(780, 540));
 }
 
 void FrmWizard::Load_Asignaturas() {
@@ -442,6 +447,40 @@ bool FrmWizard::event(QEvent* event) {
 }
 
 bool FrmWizard::eventFilter(QObject* watched, QEvent* event) {
+    // The subject grid holds the focus on its page, so that its keys reach it before a
+    // button or the focus chain takes them; a button clicked there passes them on too.
+    const bool gridKeys = watched == Frame1[2] || watched == CmdNext || watched == CmdBack || watched == CmdCancel;
+    if (gridKeys && page_ == 2) {
+        if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
+            const int key = static_cast<QKeyEvent*>(event)->key();
+            if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+                event->accept();
+                if (event->type() == QEvent::ShortcutOverride) return true;
+            }
+            if (event->type() == QEvent::KeyPress) {
+                auto* press = static_cast<QKeyEvent*>(event);
+                switch (key) {
+                case Qt::Key_Escape: CmdCancelClick(); return true;
+                case Qt::Key_Return:
+                case Qt::Key_Enter:
+                case Qt::Key_Space:
+                    if (CmdNext->isEnabled()) CmdNextClick();
+                    return true;
+                case Qt::Key_Right:
+                case Qt::Key_Left:
+                case Qt::Key_Up:
+                case Qt::Key_Down:
+                case Qt::Key_PageUp:
+                case Qt::Key_PageDown:
+                case Qt::Key_Tab:
+                case Qt::Key_Backtab:
+                case Qt::Key_Home:
+                case Qt::Key_End: SubjectKey(key, press->modifiers() & Qt::ShiftModifier); return true;
+                default: return false;
+                }
+            }
+        }
+    }
     for (int i = 0; i < 2; ++i) {
         if (watched != TxCan[i] || event->type() != QEvent::KeyPress) continue;
         const int key = static_cast<QKeyEvent*>(event)->key();
@@ -456,6 +495,7 @@ bool FrmWizard::eventFilter(QObject* watched, QEvent* event) {
 void FrmWizard::ShowPage(int page) {
     page_ = page;
     stack_->setCurrentWidget(Frame1[page]);
+    if (page == 2) Frame1[2]->setFocus(Qt::OtherFocusReason);
 }
 
 void FrmWizard::CmdNextClick() {

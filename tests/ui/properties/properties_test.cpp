@@ -32,7 +32,7 @@ TEST(Properties, ShowsTheSettingsOnItsFiveTabs) {
     b.app.Settings.FirstPageNumber = 40;
     FrmPropCol d(b.app);
     EXPECT_EQ(d.windowTitle(), "Properties of the collection");
-    EXPECT_EQ(d.CmdNext->text(), "&Aceptar");
+    EXPECT_EQ(d.CmdNext->text(), "&OK");
     const char* captions[6] = {"", " Title", " Sort", " Solutions", " Problem numbers", " Page numbers"};
     for (int i = 1; i <= 5; ++i) EXPECT_EQ(d.LblTAB[i]->text(), captions[i]);
     EXPECT_EQ(static_cast<SectionFrame*>(d.Frame1[1])->Caption(), "Collection title");

@@ -42,6 +42,8 @@
 #include "generators/catalogue.h"
 #include "typesetter/qt_surface.h"
 #include "ui/main_window/form_splash.h"
+#include "ui/main_window/page_setup_dialog.h"
+#include "ui/main_window/versions_dialog.h"
 
 namespace {
 constexpr int kShadowOffset = 2;
@@ -305,7 +307,11 @@ void FormMain::BuildMenus() {
     AddItem(file, "mnu_File_Save", "&Save", [this] { SaveCommand(); });
     AddItem(file, "mnu_File_SaveAs", "Save &as...", [this] { SaveAsCommand(); });
     file->addSeparator();
+    AddItem(file, "mnu_File_SaveVersion", "Save &version as...", [this] { SaveVersionCommand(*this); });
+    file->addSeparator();
+    AddItem(file, "mnu_File_PageSetup", "Page set&up...", [this] { PageSetupCommand(*this); });
     AddItem(file, "mnu_File_Print", "&Print...", [this] { PrintCommand(); });
+    AddItem(file, "mnu_File_Versions", "&Versions...", [this] { VersionsCommand(*this); });
     zep04_ = file->addSeparator();
     zep04_->setObjectName("zep04");
     items_["zep04"] = zep04_;
@@ -534,6 +540,7 @@ void FormMain::ReadSettings() {
     zep04_->setVisible(any);
     lastPath_ = settings.value("LastPath/Path").toString();
     lastPdfPath_ = settings.value("LastPath/PdfPath").toString();
+    app_.Page = ReadPageSetup();
 }
 
 void FormMain::WriteSettings() {
@@ -746,7 +753,7 @@ bool FormMain::ShowProperties() {
 }
 
 std::int32_t FormMain::MeasurePage(const std::string& text, double zoomScale) {
-    const QSize size(static_cast<int>(kSheetPixelsWide * zoomScale), static_cast<int>(kSheetPixelsHigh * zoomScale));
+    const QSize size(static_cast<int>(SheetPixelsWide(app_.Page.paper) * zoomScale), static_cast<int>(SheetPixelsHigh(app_.Page.paper) * zoomScale));
     if (!measure_ || measureImage_.size() != size) {
         measure_.reset();
         measureSurface_.reset();
@@ -764,8 +771,8 @@ void FormMain::DrawCurrentPage() {
     const double zoom = app_.ZoomScale;
     // The picture has the screen's own pixels, so that it stays sharp on dense screens.
     const double ratio = std::max(1.0, devicePixelRatioF());
-    QImage image(static_cast<int>(std::lround(kSheetPixelsWide * zoom * ratio)),
-                 static_cast<int>(std::lround(kSheetPixelsHigh * zoom * ratio)), QImage::Format_RGB32);
+    QImage image(static_cast<int>(std::lround(SheetPixelsWide(app_.Page.paper) * zoom * ratio)),
+                 static_cast<int>(std::lround(SheetPixelsHigh(app_.Page.paper) * zoom * ratio)), QImage::Format_RGB32);
     image.fill(Qt::white);
     app_.ZoomScale = zoom * ratio;
     {
@@ -795,7 +802,7 @@ void FormMain::ZoomCommand(const QString& item, double scale) {
 
 void FormMain::FitWidthCommand() {
     firstActivation_ = false;
-    const double scale = (client_->width() - kPicture3Width - 28) / static_cast<double>(kSheetPixelsWide);
+    const double scale = (client_->width() - kPicture3Width - 28) / static_cast<double>(SheetPixelsWide(app_.Page.paper));
     ZoomCommand("mnu_zoomANCHO", std::max(0.5, scale));
 }
 
@@ -819,8 +826,8 @@ void FormMain::Geometry() {
     const int W = client_->width();
     const int H = client_->height();
     const int T = kToolbarHeight;
-    const int P = static_cast<int>(kSheetPixelsWide * app_.ZoomScale);
-    const int Q = static_cast<int>(kSheetPixelsHigh * app_.ZoomScale);
+    const int P = static_cast<int>(SheetPixelsWide(app_.Page.paper) * app_.ZoomScale);
+    const int Q = static_cast<int>(SheetPixelsHigh(app_.Page.paper) * app_.ZoomScale);
     picture1_->resize(P, Q);
     toolbar_->setGeometry(0, 0, W, T);
     picture3_->setGeometry(W - kPicture3Width, T, kPicture3Width, H - T - kPicture2Height);
@@ -1181,7 +1188,7 @@ void FormMain::PrintCommand() {
             QBuffer buffer(&bytes);
             buffer.open(QIODevice::WriteOnly);
             QPdfWriter writer(&buffer);
-            writer.setPageSize(QPageSize(QPageSize::A4));
+            writer.setPageSize(QPageSize(app_.Page.paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
             writer.setPageMargins(QMarginsF(0, 0, 0, 0));
             writer.setResolution(1200);
             writer.setCreator("Sumforge");
@@ -1197,6 +1204,7 @@ void FormMain::PrintCommand() {
     }
     QPrinter printer(QPrinterInfo::printerInfo(printer_), QPrinter::HighResolution);
     printer.setFullPage(true);
+    printer.setPageSize(QPageSize(app_.Page.paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
     printer.setDocName(QString::fromStdString(app_.Settings.Title));
     PrintPages(printer, options);
 }

@@ -435,6 +435,10 @@ int ParseNewOptions(const CliArguments& args, NewOptions& o, VersionOutput& vers
         std::cerr << "sumforge-cli new: --key-only, --sheets-only and --col go with --versions N\n";
         return kUsageError;
     }
+    if (o.versions > 0 && o.pdfFile.empty() && versions.colFolder.empty()) {
+        std::cerr << "sumforge-cli new: --versions N writes with --pdf OUT or --col DIR\n";
+        return kUsageError;
+    }
     versions.count = o.versions;
     if (o.versions > 0) {
         versions.pdfBase = o.pdfFile.empty() ? "" : PdfBase(o.pdfFile);

@@ -94,6 +94,8 @@ std::vector<std::string> AnswerKeyBlocks(const ApplicationState& app) {
 void ComposeAnswerKey(ApplicationState& app) {
     const std::vector<std::string> blocks = AnswerKeyBlocks(app);
     app.Settings.Title = AnswerKeyTitle(app.Settings.Title);
+    // The key is the teacher's: nobody writes a name on it.
+    app.Page.nameLine = NameLinePlace::None;
     app.BlockCount = 0;
     for (const std::string& text : blocks) {
         if (app.BlockCount >= kMaxBlocks) break;

@@ -21,5 +21,6 @@ bool IsShortAnswer(const std::string& solution);
 std::vector<std::string> AnswerKeyBlocks(const ApplicationState& app);
 
 // Turns the collection in app into its answer key: the title gains " — Answer key", the
-// blocks are the key's, and the pages are found as for any document.
+// blocks are the key's, the pages carry no name line, and they are found as for any
+// document.
 void ComposeAnswerKey(ApplicationState& app);

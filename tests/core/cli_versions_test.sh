@@ -43,11 +43,11 @@ done
 
 # Letter paper and the name line, on new with versions.
 "$cli" new NRP:12x2:4 --title "Quiz" --seed 5 --versions 2 --paper letter --name-line every --pdf q > out.txt
-pdfinfo q-A.pdf | grep -q "612 x 792 pts" || fail "not on Letter paper"
+pdfinfo q-A.pdf | grep -q "612 x 792 pts (letter)" || fail "not on Letter paper"
 pdftotext -layout q-B.pdf qb.txt
 grep -q "Name: _* *Class: _* *Date: _*" qb.txt || fail "no name line"
 "$cli" render w.col --pdf a4.pdf > /dev/null
-pdfinfo a4.pdf | grep -q "595.* x 841.* pts" || fail "render is not on A4 by default"
+pdfinfo a4.pdf | grep -q "(A4)" || fail "render is not on A4 by default"
 
 # Refusals write nothing.
 if "$cli" versions w.col 1 --pdf bad 2> err.txt; then fail "one version was accepted"; fi

@@ -189,7 +189,8 @@ void CheckPageSetups(const Module& module) {
     const int wide = SweepSeeds();
     const Variant variants[] = {
         {{PaperSize::Letter, NameLinePlace::EveryPage}, false, "letter, name line"},
-        {{PaperSize::A4, NameLinePlace::FirstPage}, true, "a4 key, name line"},
+        {{PaperSize::A4, NameLinePlace::FirstPage}, false, "a4, name line on the first page"},
+        {{PaperSize::A4, NameLinePlace::None}, true, "a4 key"},
         {{PaperSize::Letter, NameLinePlace::None}, true, "letter key"},
     };
     const int seeds = wide > 0 ? wide : 1;

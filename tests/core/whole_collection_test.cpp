@@ -230,7 +230,7 @@ TEST(WholeCollection, LetterAndA4WithNameLinesAndTheirKeysHoldEverythingOnce) {
                 for (const std::string& page : pages.paper) EXPECT_EQ(Count(page, "Name:"), 1) << where;
                 if (paper == PaperSize::A4 && position == 1) a4Pages = app.PageCount;
                 if (paper == PaperSize::Letter && position == 1) {
-                    EXPECT_GT(app.PageCount, a4Pages) << where;
+                    EXPECT_GE(app.PageCount, a4Pages) << where;
                 }
             }
             ComposeAnswerKey(app);

@@ -31,6 +31,15 @@ std::string WithoutClosingLines(std::string text) {
     return text;
 }
 
+// A one-line answer of a drill stands behind its own column mark: where that is the only
+// column of the answer, the mark goes, so that the answer can take a column of the key.
+std::string WithoutOwnColumn(const std::string& text) {
+    if (text.rfind("&SP=", 0) != 0) return text;
+    const std::size_t colon = text.find(':');
+    if (colon == std::string::npos || text.find("&SP=", colon) != std::string::npos) return text;
+    return text.substr(colon + 1);
+}
+
 struct KeyEntry {
     std::string markup;
     bool isShort = false;
@@ -47,11 +56,12 @@ const ColumnMarks* RunColumns(const std::vector<std::string>& run) {
 } // namespace
 
 std::string AnswerKeyEntry(const CollectionSettings& settings, long long number, const std::string& solution) {
-    return "&+B" + NumberBox(settings, number) + "&-B& " + WithoutClosingLines(solution);
+    const std::string text = WithoutClosingLines(solution);
+    return "&+B" + NumberBox(settings, number) + "&-B& " + (IsShortAnswer(solution) ? WithoutOwnColumn(text) : text);
 }
 
 bool IsShortAnswer(const std::string& solution) {
-    const std::string text = WithoutClosingLines(solution);
+    const std::string text = WithoutOwnColumn(WithoutClosingLines(solution));
     for (const char* code : {"&LF", "&SP=", "&LSAN=", "#IMG(", "#MARK"})
         if (text.find(code) != std::string::npos) return false;
     return true;

@@ -8,10 +8,10 @@
 std::string AnswerKeyTitle(const std::string& title);
 
 // One entry of a key: the problem's number box and its solution, without the line ends
-// that close it.
+// that close it (and, for a short answer, without the column mark it stood behind).
 std::string AnswerKeyEntry(const CollectionSettings& settings, long long number, const std::string& solution);
-// Whether an entry can share its line with others: one line of text with no columns,
-// indent or picture of its own.
+// Whether an entry can share its line with others: one line of text with no columns
+// (but a leading one), indent or picture of its own.
 bool IsShortAnswer(const std::string& solution);
 
 // The blocks of a key: each solution behind its problem's number, no statement; short

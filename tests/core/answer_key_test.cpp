@@ -51,6 +51,7 @@ TEST(AnswerKey, ShortAnswersAreOneLineWithoutColumnsOrPictures) {
     EXPECT_TRUE(IsShortAnswer("x = 3&LF"));
     EXPECT_TRUE(IsShortAnswer("#COC(1#N)(2#COC)"));
     EXPECT_FALSE(IsShortAnswer("x = 3&LFy = 4&LF"));
+    EXPECT_TRUE(IsShortAnswer("&SP=10:&-I&+Ba)&-B 58 870&LF"));
     EXPECT_FALSE(IsShortAnswer("&SP=10:a) 3&SP=50:b) 4&LF"));
     EXPECT_FALSE(IsShortAnswer("#IMG(m.gif,10,10#IMG)"));
     EXPECT_FALSE(IsShortAnswer("&LSAN=12:x"));

@@ -12,8 +12,10 @@ int RunGenerateCommand(const CliArguments& args);
 int RunMarkupCommand(const CliArguments& args);
 // new CHOICE... [-o FILE.col] [--pdf FILE.pdf] [collection settings]
 int RunNewCommand(const CliArguments& args);
-// render FILE.col [--pdf OUT.pdf] [--png DIR]
+// render FILE.col [--pdf OUT.pdf] [--png DIR] [page options]
 int RunRenderCommand(const CliArguments& args);
+// versions FILE.col N [--pdf OUT] [--col DIR] [--key-only|--sheets-only] [page options]
+int RunVersionsCommand(const CliArguments& args);
 
 // Output files go through the safe writer: the old file stays whole unless the new one is
 // complete. Each says what failed on standard error and returns false.

@@ -17,16 +17,14 @@
 #include "core/col_file.h"
 #include "core/collection.h"
 #include "core/composition.h"
+#include "core/answer_key.h"
 #include "core/page_render.h"
+#include "core/versions.h"
 #include "typesetter/qt_surface.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-// The sheet of the page view at zoom 1, in pixels.
-constexpr int kSheetWidth = 796;
-constexpr int kSheetHeight = 1125;
-
 // One choice of the new command: module, routine, how many problems, items in each.
 struct Choice {
     std::string module;
@@ -39,10 +37,22 @@ struct Choice {
 struct NewOptions {
     std::vector<Choice> choices;
     CollectionSettings settings;
+    PageSetup page;
     std::string colFile;
     std::string pdfFile;
     bool haveSeed = false;
     std::int32_t seed = 0;
+    int versions = 0;
+};
+
+// What the versions of a collection give: the sheets, the keys or both.
+struct VersionOutput {
+    int count = 0;
+    bool sheets = true;
+    bool keys = true;
+    std::string pdfBase;    // OUT of OUT-A.pdf
+    std::string colFolder;  // where each version's .col goes
+    std::string colStem;    // STEM of STEM-A.col
 };
 
 bool ReadInteger(const std::string& text, long long low, long long high, long long& value) {
@@ -136,7 +146,11 @@ void NewUsage() {
                  "  --page-numbers CODE      0 none; 8 + 1 right, 2 left, 3 centre, 4/5 alternating\n"
                  "                           at the bottom (without 8 at the top); default 11\n"
                  "  --first-page N           number printed on the first page (default 1)\n"
-                 "  --seed N                 start the random source from N instead of the clock\n";
+                 "  --seed N                 start the random source from N instead of the clock\n"
+                 "  --paper a4|letter        the paper the pages are made for (default a4)\n"
+                 "  --name-line [first|every]  a name line under the title of the first or every page\n"
+                 "  --versions N             with --pdf OUT: N versions, OUT-A.pdf, OUT-A-key.pdf ...\n"
+                 "                           (--key-only, --sheets-only, --col DIR as in versions)\n";
 }
 
 // The Qt side the typesetter needs: a gui application, offscreen unless told otherwise.
@@ -158,13 +172,15 @@ void SetFolders(ApplicationState& app, TypesetterState& typesetter) {
 }
 
 // The composing machinery: the hidden screen picture that pages are measured on.
+// Pages are measured on the sheet of the state's paper: set app.Page first.
 struct Pagination {
-    QImage sheet{kSheetWidth, kSheetHeight, QImage::Format_RGB32};
+    QImage sheet;
     TypesetterState typesetter;
     std::unique_ptr<QtSurface> surface;
     std::unique_ptr<TypesetterMeasure> measure;
 
-    explicit Pagination(ApplicationState& app) {
+    explicit Pagination(ApplicationState& app)
+        : sheet(SheetPixelsWide(app.Page.paper), SheetPixelsHigh(app.Page.paper), QImage::Format_RGB32) {
         sheet.fill(Qt::white);
         surface = std::make_unique<QtSurface>(sheet);
         measure = std::make_unique<TypesetterMeasure>(typesetter, *surface);
@@ -182,7 +198,7 @@ bool WritePdf(ApplicationState& app, const std::string& path, const char* comman
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::WriteOnly);
         QPdfWriter writer(&buffer);
-        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageSize(QPageSize(app.Page.paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));
         writer.setResolution(1200);
         writer.setCreator("Sumforge");
@@ -216,7 +232,7 @@ bool WritePngs(ApplicationState& app, const std::string& folder, const char* com
     TypesetterState pictures;
     SetFolders(app, pictures);
     for (int page = 1; page <= app.PageCount; ++page) {
-        QImage image(kSheetWidth, kSheetHeight, QImage::Format_RGB32);
+        QImage image(SheetPixelsWide(app.Page.paper), SheetPixelsHigh(app.Page.paper), QImage::Format_RGB32);
         image.fill(Qt::white);
         {
             TypesetterState typesetter;
@@ -235,7 +251,117 @@ bool WritePngs(ApplicationState& app, const std::string& folder, const char* com
     return true;
 }
 
-int ParseNewOptions(const CliArguments& args, NewOptions& o) {
+// The page options of new, render and versions. Returns -1 when args[i] is none of them,
+// 0 when it was read (i then stands on its last word), kUsageError for a bad value.
+int ReadPageOption(const CliArguments& args, std::size_t& i, PageSetup& page, const char* command) {
+    const std::string& a = args[i];
+    if (a == "--paper") {
+        if (i + 1 >= args.size() || !ReadPaperName(args[i + 1], page.paper)) {
+            std::cerr << "sumforge-cli " << command << ": --paper takes a4 or letter\n";
+            return kUsageError;
+        }
+        ++i;
+        return 0;
+    }
+    if (a == "--name-line") {
+        page.nameLine = NameLinePlace::FirstPage;
+        if (i + 1 < args.size()) {
+            const std::string where = Upper(args[i + 1]);
+            if (where == "FIRST") ++i;
+            else if (where == "EVERY") page.nameLine = NameLinePlace::EveryPage, ++i;
+            else if (where == "NONE") page.nameLine = NameLinePlace::None, ++i;
+        }
+        return 0;
+    }
+    return -1;
+}
+
+// The options of versions (and of new with --versions): which documents, and where the
+// collection files go. Same returns as ReadPageOption.
+int ReadVersionOption(const CliArguments& args, std::size_t& i, VersionOutput& o, const char* command) {
+    const std::string& a = args[i];
+    if (a == "--key-only") {
+        o.sheets = false;
+        o.keys = true;
+    } else if (a == "--sheets-only") {
+        o.sheets = true;
+        o.keys = false;
+    } else if (a == "--col") {
+        if (i + 1 >= args.size()) {
+            std::cerr << "sumforge-cli " << command << ": --col takes a folder\n";
+            return kUsageError;
+        }
+        o.colFolder = args[++i];
+    } else {
+        return -1;
+    }
+    return 0;
+}
+
+bool EndsWithPdf(const std::string& name) { return name.size() >= 4 && Upper(name.substr(name.size() - 4)) == ".PDF"; }
+
+// "out.pdf" and "out" both name out-A.pdf, out-A-key.pdf and on.
+std::string PdfBase(const std::string& name) { return EndsWithPdf(name) ? name.substr(0, name.size() - 4) : name; }
+
+std::string SheetFile(const VersionOutput& o, int v) { return o.pdfBase + "-" + VersionLetter(v) + ".pdf"; }
+std::string KeyFile(const VersionOutput& o, int v) { return o.pdfBase + "-" + VersionLetter(v) + "-key.pdf"; }
+std::string VersionColFile(const VersionOutput& o, int v) {
+    return (fs::path(o.colFolder) / (o.colStem + "-" + VersionLetter(v) + ".col")).string();
+}
+
+// Every file the versions will write can be written: said once, before anything is made.
+bool CheckVersionTargets(const VersionOutput& o, const char* command) {
+    if (!o.colFolder.empty()) {
+        std::error_code ec;
+        fs::create_directories(o.colFolder, ec);
+        if (ec || !fs::is_directory(o.colFolder)) {
+            std::cerr << "sumforge-cli " << command << ": cannot make the folder '" << o.colFolder
+                      << "': " << (ec ? ec.message() : "not a folder") << "\n";
+            return false;
+        }
+    }
+    for (int v = 0; v < o.count; ++v) {
+        if (!o.pdfBase.empty() && o.sheets && !CheckOutputFile(SheetFile(o, v), command)) return false;
+        if (!o.pdfBase.empty() && o.keys && !CheckOutputFile(KeyFile(o, v), command)) return false;
+        if (!o.colFolder.empty() && !CheckOutputFile(VersionColFile(o, v), command)) return false;
+    }
+    return true;
+}
+
+// The versions of the collection in app, each laid out on its own state: its sheets, its
+// answer key and its collection file, as o asks.
+bool WriteVersions(ApplicationState& app, const VersionOutput& o, const char* command) {
+    const std::vector<CollectionValue> versions = MakeVersions(app.hub, CollectionOf(app), o.count);
+    for (int v = 0; v < static_cast<int>(versions.size()); ++v) {
+        ApplicationState doc;
+        doc.Page = app.Page;
+        Pagination pagination(doc);
+        LoadCollection(doc, versions[static_cast<std::size_t>(v)]);
+        if (!o.colFolder.empty()) {
+            doc.CurrentFileName = VersionColFile(o, v);
+            if (!SaveFile(doc)) {
+                std::cerr << "sumforge-cli " << command << ": " << static_cast<QuietWindow*>(doc.window)->lastMessage
+                          << "\n";
+                return false;
+            }
+            std::cout << doc.CurrentFileName << ": " << doc.ProblemCount() << " problems\n";
+        }
+        if (o.pdfBase.empty()) continue;
+        if (o.sheets) {
+            ComposeDocument(doc, true, 1);
+            if (!WritePdf(doc, SheetFile(o, v), command)) return false;
+            std::cout << SheetFile(o, v) << ": " << doc.PageCount << " pages\n";
+        }
+        if (o.keys) {
+            ComposeAnswerKey(doc);
+            if (!WritePdf(doc, KeyFile(o, v), command)) return false;
+            std::cout << KeyFile(o, v) << ": " << doc.PageCount << " pages\n";
+        }
+    }
+    return true;
+}
+
+int ParseNewOptions(const CliArguments& args, NewOptions& o, VersionOutput& versions) {
     o.settings.NumberColour = 192 + 224 * 256 + 255 * 65536;
     for (std::size_t i = 0; i < args.size(); ++i) {
         const std::string& a = args[i];
@@ -281,6 +407,13 @@ int ParseNewOptions(const CliArguments& args, NewOptions& o) {
             if (!ReadInteger(args[++i], 0, 2147483647, value)) return fail("--seed takes a whole number");
             o.haveSeed = true;
             o.seed = static_cast<std::int32_t>(value);
+        } else if (a == "--versions" && hasValue) {
+            if (!ReadInteger(args[++i], 2, kMaxVersions, value)) return fail("--versions takes a number from 2 to 26");
+            o.versions = static_cast<int>(value);
+        } else if (const int page = ReadPageOption(args, i, o.page, "new"); page >= 0) {
+            if (page != 0) return page;
+        } else if (const int version = ReadVersionOption(args, i, versions, "new"); version >= 0) {
+            if (version != 0) return version;
         } else if (!a.empty() && a[0] != '-') {
             Choice choice;
             if (!ParseChoice(a, choice)) return fail("'" + a + "' is not a choice like NRP:12x3:5");
@@ -298,20 +431,109 @@ int ParseNewOptions(const CliArguments& args, NewOptions& o) {
         std::cerr << "sumforge-cli new: the collection file must end in .col: '" << o.colFile << "'\n";
         return kUsageError;
     }
+    if (o.versions == 0 && (!versions.sheets || !versions.keys || !versions.colFolder.empty())) {
+        std::cerr << "sumforge-cli new: --key-only, --sheets-only and --col go with --versions N\n";
+        return kUsageError;
+    }
+    if (o.versions > 0 && o.pdfFile.empty() && versions.colFolder.empty()) {
+        std::cerr << "sumforge-cli new: --versions N writes with --pdf OUT or --col DIR\n";
+        return kUsageError;
+    }
+    versions.count = o.versions;
+    if (o.versions > 0) {
+        versions.pdfBase = o.pdfFile.empty() ? "" : PdfBase(o.pdfFile);
+        versions.colStem = o.colFile.empty() ? "collection" : fs::path(o.colFile).stem().string();
+    }
     return 0;
+}
+// Opens a collection file into app (composed); says why not on standard error.
+bool OpenCollection(ApplicationState& app, const std::string& colFile, const char* command) {
+    app.CurrentFileName = colFile;
+    if (OpenFile(app)) return true;
+    const std::string& message = static_cast<QuietWindow*>(app.window)->lastMessage;
+    // A file that could not be read at all carries the system's reason already.
+    if (message.rfind("Cannot open ", 0) == 0)
+        std::cerr << "sumforge-cli " << command << ": c" << message.substr(1) << "\n";
+    else
+        std::cerr << "sumforge-cli " << command << ": cannot open '" << colFile
+                  << "': " << (message.empty() ? "Bad file." : message) << "\n";
+    return false;
+}
+
+void VersionsUsage() {
+    std::cerr << "Usage: sumforge-cli versions FILE.col N [--pdf OUT] [--col DIR] [options]\n"
+                 "  N                        how many versions, 2 to 26 (A is the collection itself)\n"
+                 "  --pdf OUT                write OUT-A.pdf, OUT-A-key.pdf, OUT-B.pdf ...\n"
+                 "  --key-only | --sheets-only   only the answer keys, or only the sheets\n"
+                 "  --col DIR                write each version as DIR/NAME-A.col ...\n"
+                 "  --paper a4|letter        the paper (default a4)\n"
+                 "  --name-line [first|every]  a name line under the title\n";
 }
 } // namespace
 
+int RunVersionsCommand(const CliArguments& args) {
+    std::string colFile, pdfFile;
+    long long count = 0;
+    bool haveCount = false;
+    PageSetup page;
+    VersionOutput o;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        if (const int status = ReadPageOption(args, i, page, "versions"); status >= 0) {
+            if (status != 0) return status;
+        } else if (const int status2 = ReadVersionOption(args, i, o, "versions"); status2 >= 0) {
+            if (status2 != 0) return status2;
+        } else if (a == "--pdf" && i + 1 < args.size()) {
+            pdfFile = args[++i];
+        } else if (colFile.empty() && !a.empty() && a[0] != '-') {
+            colFile = a;
+        } else if (!haveCount && !a.empty() && a[0] != '-') {
+            if (!ReadInteger(a, 2, kMaxVersions, count)) {
+                std::cerr << "sumforge-cli versions: the number of versions is 2 to 26, not '" << a << "'\n";
+                return kUsageError;
+            }
+            haveCount = true;
+        } else {
+            VersionsUsage();
+            return kUsageError;
+        }
+    }
+    if (colFile.empty() || !haveCount || (pdfFile.empty() && o.colFolder.empty())) {
+        VersionsUsage();
+        return kUsageError;
+    }
+    if (!EndsWithCol(colFile)) {
+        std::cerr << "sumforge-cli versions: not a collection file (.col): '" << colFile << "'\n";
+        return kUsageError;
+    }
+    o.count = static_cast<int>(count);
+    o.pdfBase = pdfFile.empty() ? "" : PdfBase(pdfFile);
+    o.colStem = fs::path(colFile).stem().string();
+    if (!CheckVersionTargets(o, "versions")) return 1;
+    auto gui = StartGui();
+    ApplicationState app;
+    app.Page = page;
+    Pagination pagination(app);
+    if (!OpenCollection(app, colFile, "versions")) return 1;
+    return WriteVersions(app, o, "versions") ? 0 : 1;
+}
+
 int RunNewCommand(const CliArguments& args) {
     NewOptions o;
-    if (const int status = ParseNewOptions(args, o); status != 0) return status;
+    VersionOutput versions;
+    if (const int status = ParseNewOptions(args, o, versions); status != 0) return status;
     // A file that can't be written is said once, before any problem is made.
     if (!o.colFile.empty() && !CheckOutputFile(o.colFile, "new")) return 1;
-    if (!o.pdfFile.empty() && !CheckOutputFile(o.pdfFile, "new")) return 1;
+    if (o.versions > 0) {
+        if (!CheckVersionTargets(versions, "new")) return 1;
+    } else if (!o.pdfFile.empty() && !CheckOutputFile(o.pdfFile, "new")) {
+        return 1;
+    }
     auto gui = StartGui();
 
     ApplicationState app;
     if (o.haveSeed) app.ClockSeed = [seed = o.seed] { return seed; };
+    app.Page = o.page;
     Pagination pagination(app);
 
     // The tree of the subject, marked with the choices, as the wizard leaves it.
@@ -367,17 +589,21 @@ int RunNewCommand(const CliArguments& args) {
             return 1;
         }
     }
-    if (!o.pdfFile.empty() && !WritePdf(app, o.pdfFile, "new")) return 1;
     std::cout << app.ProblemCount() << " problems, " << app.PageCount << " pages\n";
+    if (o.versions > 0) return WriteVersions(app, versions, "new") ? 0 : 1;
+    if (!o.pdfFile.empty() && !WritePdf(app, o.pdfFile, "new")) return 1;
     return 0;
 }
 
 int RunRenderCommand(const CliArguments& args) {
     std::string colFile, pdfFile, pngFolder;
+    PageSetup page;
     for (std::size_t i = 0; i < args.size(); ++i) {
         const std::string& a = args[i];
         const bool hasValue = i + 1 < args.size();
-        if (a == "--pdf" && hasValue) {
+        if (const int status = ReadPageOption(args, i, page, "render"); status >= 0) {
+            if (status != 0) return status;
+        } else if (a == "--pdf" && hasValue) {
             pdfFile = args[++i];
         } else if (a == "--png" && hasValue) {
             pngFolder = args[++i];
@@ -389,7 +615,8 @@ int RunRenderCommand(const CliArguments& args) {
         }
     }
     if (colFile.empty() || (pdfFile.empty() && pngFolder.empty())) {
-        std::cerr << "Usage: sumforge-cli render FILE.col [--pdf OUT.pdf] [--png DIR]\n";
+        std::cerr << "Usage: sumforge-cli render FILE.col [--pdf OUT.pdf] [--png DIR] [--paper a4|letter]\n"
+                     "                             [--name-line [first|every]]\n";
         return kUsageError;
     }
     if (!EndsWithCol(colFile)) {
@@ -399,18 +626,9 @@ int RunRenderCommand(const CliArguments& args) {
     if (!pdfFile.empty() && !CheckOutputFile(pdfFile, "render")) return 1;
     auto gui = StartGui();
     ApplicationState app;
+    app.Page = page;
     Pagination pagination(app);
-    app.CurrentFileName = colFile;
-    if (!OpenFile(app)) {
-        const std::string& message = static_cast<QuietWindow*>(app.window)->lastMessage;
-        // A file that could not be read at all carries the system's reason already.
-        if (message.rfind("Cannot open ", 0) == 0)
-            std::cerr << "sumforge-cli render: c" << message.substr(1) << "\n";
-        else
-            std::cerr << "sumforge-cli render: cannot open '" << colFile
-                      << "': " << (message.empty() ? "Bad file." : message) << "\n";
-        return 1;
-    }
+    if (!OpenCollection(app, colFile, "render")) return 1;
     if (!pdfFile.empty() && !WritePdf(app, pdfFile, "render")) return 1;
     if (!pngFolder.empty() && !WritePngs(app, pngFolder, "render")) return 1;
     std::cout << app.ProblemCount() << " problems, " << app.PageCount << " pages\n";

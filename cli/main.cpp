@@ -21,10 +21,13 @@ void PrintUsage(std::ostream& out) {
            "                          make a collection, e.g. new NRP:12x3:5 --title Practice -o p.col\n"
            "  render FILE.col [--pdf OUT.pdf] [--png DIR]\n"
            "                          print the pages of a collection file\n"
+           "  versions FILE.col N [--pdf OUT] [--col DIR] [--key-only | --sheets-only]\n"
+           "                          N versions of a collection with their answer keys\n"
            "\n"
            "Options of new: --title TEXT, --solutions none|after|end|page, --sorted, --shuffled,\n"
            "  --first-problem N, --prefix TEXT, --suffix TEXT, --colour #RRGGBB, --page-numbers CODE,\n"
-           "  --first-page N, --seed N. See the man page sumforge-cli(1) and the user's manual.\n";
+           "  --first-page N, --seed N, --versions N. Of new, render and versions: --paper a4|letter,\n"
+           "  --name-line [first|every]. See the man page sumforge-cli(1) and the user's manual.\n";
 }
 } // namespace
 
@@ -35,6 +38,7 @@ int main(int argc, char** argv) {
         {"markup", RunMarkupCommand},
         {"new", RunNewCommand},
         {"render", RunRenderCommand},
+        {"versions", RunVersionsCommand},
     };
     if (argc < 2) {
         PrintUsage(std::cerr);

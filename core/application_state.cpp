@@ -85,7 +85,8 @@ void NoColeccion(ApplicationState& app) {
     app.CurrentFileName.clear();
     app.menus->SetVisible("mnu_Edicion", false);
     app.menus->SetVisible("mnu_COLEC", false);
-    for (const char* item : {"mnu_File_Print", "mnu_File_Repetir", "mnu_File_Save", "mnu_File_SaveAs"})
+    for (const char* item : {"mnu_File_Print", "mnu_File_Repetir", "mnu_File_Save", "mnu_File_SaveAs",
+                             "mnu_File_Versions", "mnu_File_SaveVersion"})
         app.menus->SetEnabled(item, false);
     app.Settings.ProblemCount = 0;
     app.UndoSnapshot.available = false;
@@ -110,7 +111,8 @@ void HayColeccion(ApplicationState& app) {
     for (const char* item : {"tbToolbar1", "mnu_File", "mnu_Help"}) app.menus->SetEnabled(item, true);
     app.menus->SetVisible("mnu_Edicion", true);
     app.menus->SetVisible("mnu_COLEC", true);
-    for (const char* item : {"mnu_File_Print", "mnu_File_Repetir", "mnu_File_Save", "mnu_File_SaveAs"})
+    for (const char* item : {"mnu_File_Print", "mnu_File_Repetir", "mnu_File_Save", "mnu_File_SaveAs",
+                             "mnu_File_Versions", "mnu_File_SaveVersion"})
         app.menus->SetEnabled(item, true);
     app.ToolEnabled[2] = app.ToolEnabled[3] = true;
     app.ToolEnabled[6] = app.ToolEnabled[7] = false;

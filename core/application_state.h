@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/page_setup.h"
 #include "core/ports.h"
 #include "core/safe_write.h"
 #include "generators/hub.h"
@@ -133,6 +134,8 @@ struct ApplicationState {
     std::string ApplicationTitle = "Tolmen - Sumforge";
     std::string CurrentFileName;
     CollectionSettings Settings;
+    // Paper and name line: the program's settings, kept out of the file and of undo.
+    PageSetup Page;
     CollectionSnapshot UndoSnapshot;
     CollectionSnapshot RedoSnapshot;
     // The stores of the undo and redo descriptions, as the menu shows them.

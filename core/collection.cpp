@@ -242,16 +242,17 @@ void EndGeneration(ApplicationState& app) {
     app.window->SetWaitCursor(false);
 }
 
-void Generate(ApplicationState& app, ProblemRecord& r) {
-    app.hub.RunGenerator(r.ModuleName, ProblemCodeOf(r), r.Statement, r.Solution);
-}
 } // namespace
+
+void GenerateRecord(GeneratorHub& hub, ProblemRecord& r) {
+    hub.RunGenerator(r.ModuleName, ProblemCodeOf(r), r.Statement, r.Solution);
+}
 
 void CrearColeccion(ApplicationState& app, int problem) {
     if (app.ProblemCount() == 0) return;
     BeginGeneration(app);
     if (!app.Settings.Sorted) Barajar(app);
-    for (int i = 1; i <= app.ProblemCount(); ++i) Generate(app, app.Problems[i]);
+    for (int i = 1; i <= app.ProblemCount(); ++i) GenerateRecord(app.hub, app.Problems[i]);
     ComposeDocument(app, true, problem);
     EndGeneration(app);
 }
@@ -259,7 +260,7 @@ void CrearColeccion(ApplicationState& app, int problem) {
 void RecreateProblem(ApplicationState& app, int index, int problem) {
     if (index < 1 || index > kMaxProblems) return;
     BeginGeneration(app);
-    Generate(app, app.Problems[index]);
+    GenerateRecord(app.hub, app.Problems[index]);
     ComposeDocument(app, true, problem);
     EndGeneration(app);
 }

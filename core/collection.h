@@ -25,6 +25,9 @@ bool LoadTOLISTBOX_BUILT_CODE(ApplicationState& app, const std::string& subject,
 void Arbol_to_Var(ApplicationState& app);
 // Shuffles the identities of the records (their texts are made afterwards).
 void Barajar(ApplicationState& app);
+// Writes the statement and solution of one record from its code (the path of creation and
+// re-creation alike).
+void GenerateRecord(GeneratorHub& hub, ProblemRecord& record);
 // Generates every record and composes; problem is the one whose page is shown, 0 none.
 void CrearColeccion(ApplicationState& app, int problem);
 // Generates one record and composes.

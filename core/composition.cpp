@@ -132,6 +132,7 @@ int PageRun(ApplicationState& app, std::int32_t& flow, int lastBlock, int firstP
         std::string text;
         for (int b = std::max(top, 1); b <= end && b <= app.BlockCount; ++b)
             if (app.Blocks[b].page == 0) text += app.Blocks[b].text;
+        if (PageHasNameLine(app.Page, g)) text = NameLineMarkup() + text;
         if (!settings.Title.empty()) text = "&+B" + PlainTextMarkup(settings.Title) + "&-B&LF&LF" + text;
         if (settings.PagePositionCode & 8)
             text += " &LF";
@@ -219,6 +220,10 @@ std::string PageBlocksText(const ApplicationState& app, int page) {
 std::string DrawnTitleLine(const std::string& title) {
     if (title.empty()) return "";
     return "&+B&FN=Arial:" + PlainTextMarkup(title) + "&FN=Times New Roman:&-B&LF&LF";
+}
+
+std::string DrawnPageHead(const ApplicationState& app, int page) {
+    return DrawnTitleLine(app.Settings.Title) + (PageHasNameLine(app.Page, page) ? NameLineMarkup() : "");
 }
 
 long long PrintedPageNumber(const CollectionSettings& settings, int page) {

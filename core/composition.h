@@ -31,5 +31,8 @@ int PageOfProblem(const ApplicationState& app, int problem);
 std::string PageBlocksText(const ApplicationState& app, int page);
 // The title line the drawn and printed pages carry ("" without a title).
 std::string DrawnTitleLine(const std::string& title);
+// The head of a drawn or printed page: the title line, and the name line where the page
+// setup puts one.
+std::string DrawnPageHead(const ApplicationState& app, int page);
 // The number printed on a page: its place plus the first page number, less 1.
 long long PrintedPageNumber(const CollectionSettings& settings, int page);

@@ -70,7 +70,7 @@ void DrawCurrentPage(ApplicationState& app, TypesetterState& typesetter, Drawing
     app.window->SetPageLabel("Pag. " + std::to_string(app.CurrentPage) + "/" + std::to_string(app.PageCount));
     std::string text = PageBlocksText(app, app.CurrentPage);
     const std::string& title = app.Settings.Title;
-    text = DrawnTitleLine(title) + text;
+    text = DrawnPageHead(app, app.CurrentPage) + text;
     const double zoom = app.ZoomScale;
     const double margin = 16.0 / 25.4 * 1440.0 * zoom;
     const double pageWidth = (screen.Width() - 2) * screen.TwipsPerPixelX();
@@ -97,7 +97,7 @@ void DrawCurrentPage(ApplicationState& app, TypesetterState& typesetter, Drawing
 void PrintOnePage(ApplicationState& app, TypesetterState& typesetter, DrawingSurface& printer, int page) {
     std::string text = PageBlocksText(app, page);
     const std::string& title = app.Settings.Title;
-    text = DrawnTitleLine(title) + text;
+    text = DrawnPageHead(app, page) + text;
     printer.SetFontSize(12);
     const double h = printer.TextHeight("HH");
     typesetter.PrinterSurface = &printer;

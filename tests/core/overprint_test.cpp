@@ -13,6 +13,7 @@
 #include <memory>
 #include <sstream>
 
+#include "core/answer_key.h"
 #include "core/collection.h"
 #include "core/composition.h"
 #include "core/page_render.h"
@@ -59,9 +60,18 @@ void UsePictures(TypesetterState& t) {
 // The item count of a routine in a run: the sweep's seed walks through 1 to 26.
 int ItemsFor(int routine, int seed) { return (routine * 7 + seed * 11) % 26 + 1; }
 
+// How the pages are set up and what is printed: the sheets or their answer key.
+struct Variant {
+    PageSetup page;
+    bool key = false;
+    const char* name = "";
+};
+
 class PaginationOnSheet {
 public:
-    PaginationOnSheet() : sheet_(796, 1125, QImage::Format_RGB32), surface_(sheet_), measure_(typesetter_, surface_) {
+    explicit PaginationOnSheet(PaperSize paper)
+        : sheet_(SheetPixelsWide(paper), SheetPixelsHigh(paper), QImage::Format_RGB32), surface_(sheet_),
+          measure_(typesetter_, surface_) {
         UsePictures(typesetter_);
     }
     PageMeasurePort* Port() { return &measure_; }
@@ -73,16 +83,20 @@ private:
     TypesetterMeasure measure_;
 };
 
-std::string Where(const std::string& module, int position, int seed, const char* geometry, int page) {
+std::string Where(const std::string& module, int position, int seed, const char* geometry, int page,
+                  const Variant& variant) {
     std::ostringstream out;
-    out << module << " solutions " << position << " seed " << seed << " " << geometry << " page " << page << ": ";
+    out << module << " " << variant.name << " solutions " << position << " seed " << seed << " " << geometry
+        << " page " << page << ": ";
     return out.str();
 }
 
 // Composes one collection of every routine of the module and checks each page on both
 // surfaces; returns the faults found.
-std::vector<std::string> CheckModule(const Module& module, int position, int seed, const QString& pdfPath) {
+std::vector<std::string> CheckModule(const Module& module, int position, int seed, const QString& pdfPath,
+                                     const Variant& variant = {}) {
     ApplicationState app;
+    app.Page = variant.page;
     app.ClockSeed = [seed] { return seed; };
     app.Reseed();
     app.TopicTree = {TopicNode{}};
@@ -99,9 +113,11 @@ std::vector<std::string> CheckModule(const Module& module, int position, int see
     app.Settings.Title = "Sheet";
     app.Settings.Sorted = true;
     Arbol_to_Var(app);
-    PaginationOnSheet pagination;
+    PaginationOnSheet pagination(app.Page.paper);
     app.measure = pagination.Port();
     CrearColeccion(app, 1);
+    if (variant.key) ComposeAnswerKey(app);
+    const int wide = SheetPixelsWide(app.Page.paper), high = SheetPixelsHigh(app.Page.paper);
 
     std::vector<std::string> faults;
     auto note = [&](const std::string& where, const std::vector<std::string>& found) {
@@ -109,7 +125,7 @@ std::vector<std::string> CheckModule(const Module& module, int position, int see
             if (faults.size() < 30) faults.push_back(where + f);
     };
     for (int page = 1; page <= app.PageCount; ++page) {
-        QImage sheet(796, 1125, QImage::Format_RGB32);
+        QImage sheet(wide, high, QImage::Format_RGB32);
         sheet.fill(Qt::white);
         QtSurface screen(sheet);
         TypesetterState t;
@@ -118,13 +134,13 @@ std::vector<std::string> CheckModule(const Module& module, int position, int see
         app.CurrentPage = page;
         app.ZoomScale = 1.0;
         DrawCurrentPage(app, t, recorder);
-        const double w = (796 - 2) * 15.0, h = (1125 - 2) * 15.0;
-        note(Where(module.name, position, seed, "screen", page),
+        const double w = (wide - 2) * 15.0, h = (high - 2) * 15.0;
+        note(Where(module.name, position, seed, "screen", page, variant),
              OverprintFaults(recorder.inks, t.MarginLeft, t.MarginTop, w - t.MarginRight, h - t.MarginBottom, 15));
     }
     {
         QPdfWriter writer(pdfPath);
-        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageSize(QPageSize(app.Page.paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));
         writer.setResolution(1200);
         QtSurface paper(writer);
@@ -135,7 +151,7 @@ std::vector<std::string> CheckModule(const Module& module, int position, int see
             InkRecorder recorder(paper, t, 1.0);
             t.PrinterInstalled = true;
             PrintOnePage(app, t, recorder, page);
-            note(Where(module.name, position, seed, "paper", page),
+            note(Where(module.name, position, seed, "paper", page, variant),
                  OverprintFaults(recorder.inks, t.MarginLeft, t.MarginTop, t.PageWidth - t.MarginRight,
                                  t.PageHeight - t.MarginBottom, 15));
         }
@@ -164,11 +180,36 @@ void CheckAll(const Module& module) {
         }
     }
 }
+
+// Letter paper with a name line on every page, and the answer keys on both papers.
+void CheckPageSetups(const Module& module) {
+    EnsureGui();
+    QTemporaryDir dir;
+    const QString pdf = dir.filePath("sheet.pdf");
+    const int wide = SweepSeeds();
+    const Variant variants[] = {
+        {{PaperSize::Letter, NameLinePlace::EveryPage}, false, "letter, name line"},
+        {{PaperSize::A4, NameLinePlace::FirstPage}, false, "a4, name line on the first page"},
+        {{PaperSize::A4, NameLinePlace::None}, true, "a4 key"},
+        {{PaperSize::Letter, NameLinePlace::None}, true, "letter key"},
+    };
+    const int seeds = wide > 0 ? wide : 1;
+    for (const Variant& variant : variants)
+        for (int k = 0; k < seeds; ++k) {
+            const int seed = wide > 0 ? k + 1 : 5;
+            const int position = variant.key ? 2 : 1 + k % 3;
+            for (const auto& f : CheckModule(module, position, seed, pdf, variant)) ADD_FAILURE() << f;
+        }
+}
 } // namespace
 
 class Overprint : public ::testing::TestWithParam<int> {};
 
 TEST_P(Overprint, NoItemPrintsOverAnotherAndNothingCrossesTheMargins) { CheckAll(Modules()[GetParam()]); }
+
+TEST_P(Overprint, LetterPagesNameLinesAndAnswerKeysPrintNothingOverAnotherItem) {
+    CheckPageSetups(Modules()[GetParam()]);
+}
 
 INSTANTIATE_TEST_SUITE_P(EveryModule, Overprint, ::testing::Range(0, 10), [](const auto& info) {
     return std::string(Modules()[info.param].name + 10);

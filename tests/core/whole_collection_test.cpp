@@ -11,6 +11,7 @@
 #include <map>
 #include <regex>
 
+#include "core/answer_key.h"
 #include "core/collection.h"
 #include "core/composition.h"
 #include "core/editing.h"
@@ -88,13 +89,13 @@ struct Pages {
 
 Pages DrawAndPrint(ApplicationState& app, const QString& pdf) {
     Pages pages;
-    QImage sheet(796, 1125, QImage::Format_RGB32);
+    QImage sheet(SheetPixelsWide(app.Page.paper), SheetPixelsHigh(app.Page.paper), QImage::Format_RGB32);
     QtSurface screenSurface(sheet);
     TextRecorder screen(screenSurface);
     TypesetterState screenState;
     screenState.ScreenSurface = &screen;
     QPdfWriter writer(pdf);
-    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageSize(QPageSize(app.Page.paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
     writer.setPageMargins(QMarginsF(0, 0, 0, 0));
     writer.setResolution(1200);
     QtSurface paperSurface(writer);
@@ -197,4 +198,74 @@ TEST(WholeCollection, TheThousandthBlockEndsItsPageAndTheDocument) {
     ASSERT_GT(bench.app.Marks.MarkCount, 0);
     bench.app.Marks.MarkSelected[bench.app.Marks.MarkCount - 1] = true;
     EXPECT_EQ(SelectedProblem(bench.app), kMaxProblems);
+}
+
+// On Letter paper as on A4, with a name line on every page: each problem once, each page
+// with one name line; and the answer key holds each solution once.
+TEST(WholeCollection, LetterAndA4WithNameLinesAndTheirKeysHoldEverythingOnce) {
+    EnsureGui();
+    QTemporaryDir folder;
+    for (int n : {50, 500}) {
+        int a4Pages = 0;
+        for (PaperSize paper : {PaperSize::A4, PaperSize::Letter}) {
+            ApplicationState app;
+            app.ClockSeed = [] { return 3; };
+            app.Reseed();
+            app.Page.paper = paper;
+            app.Page.nameLine = NameLinePlace::EveryPage;
+            QImage sheet(SheetPixelsWide(paper), SheetPixelsHigh(paper), QImage::Format_RGB32);
+            QtSurface surface(sheet);
+            TypesetterState typesetter;
+            TypesetterMeasure measure(typesetter, surface);
+            app.measure = &measure;
+            Create(app, n);
+            const std::string name = std::to_string(n) + (paper == PaperSize::Letter ? " letter" : " a4");
+            for (int position : {1, 2}) {
+                app.Settings.SolutionPosition = position;
+                ComposeDocument(app, true, 1);
+                const std::string where = name + ", solutions " + std::to_string(position);
+                const Pages pages = DrawAndPrint(app, folder.filePath(QString("l%1-%2.pdf").arg(n).arg(position)));
+                ExpectEverythingOnce(pages.screen, n, position, where + ", screen");
+                ExpectEverythingOnce(pages.paper, n, position, where + ", paper");
+                for (const std::string& page : pages.paper) EXPECT_EQ(Count(page, "Name:"), 1) << where;
+                if (paper == PaperSize::A4 && position == 1) a4Pages = app.PageCount;
+                if (paper == PaperSize::Letter && position == 1) {
+                    EXPECT_GE(app.PageCount, a4Pages) << where;
+                }
+            }
+            ComposeAnswerKey(app);
+            EXPECT_EQ(app.Settings.Title, "Drill \u2014 Answer key");
+            const Pages key = DrawAndPrint(app, folder.filePath(QString("k%1.pdf").arg(n)));
+            for (const auto* pages : {&key.screen, &key.paper}) {
+                std::string all;
+                for (const auto& page : *pages) all += page;
+                std::vector<int> expected;
+                for (int k = 7; k < 7 + n; ++k) expected.push_back(k);
+                EXPECT_EQ(BoxNumbers(all), expected) << name << " key";
+                EXPECT_EQ(Count(all, "Solution"), 0) << name << " key";
+            }
+        }
+    }
+}
+
+TEST(WholeCollection, TheNameLineStandsOnTheFirstPageOnlyWhenAskedSo) {
+    EnsureGui();
+    QTemporaryDir folder;
+    ApplicationState app;
+    app.ClockSeed = [] { return 3; };
+    app.Reseed();
+    app.Page.nameLine = NameLinePlace::FirstPage;
+    QImage sheet(796, 1125, QImage::Format_RGB32);
+    QtSurface surface(sheet);
+    TypesetterState typesetter;
+    TypesetterMeasure measure(typesetter, surface);
+    app.measure = &measure;
+    Create(app, 60);
+    ASSERT_GE(app.PageCount, 3);
+    const Pages pages = DrawAndPrint(app, folder.filePath("first.pdf"));
+    for (std::size_t p = 0; p < pages.paper.size(); ++p) {
+        EXPECT_EQ(Count(pages.paper[p], "Name:"), p == 0 ? 1 : 0) << p;
+        EXPECT_EQ(Count(pages.screen[p], "Name:"), p == 0 ? 1 : 0) << p;
+    }
+    ExpectEverythingOnce(pages.paper, 60, 1, "first page name line");
 }

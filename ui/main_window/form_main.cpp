@@ -25,6 +25,7 @@
 #include "core/col_file.h"
 #include "core/collection.h"
 #include "core/editing.h"
+#include "core/page_setup.h"
 #include "generators/catalogue.h"
 #include "ui/main_window/main_window_files.h"
 #include "ui/screen_fit.h"
@@ -285,7 +286,7 @@ bool FormMain::ShowProperties() {
 }
 
 std::int32_t FormMain::MeasurePage(const std::string& text, double zoomScale) {
-    const QSize size(static_cast<int>(kSheetPixelsWide * zoomScale), static_cast<int>(kSheetPixelsHigh * zoomScale));
+    const QSize size(static_cast<int>(SheetPixelsWide(app_.Page.paper) * zoomScale), static_cast<int>(SheetPixelsHigh(app_.Page.paper) * zoomScale));
     if (!measure_ || measureImage_.size() != size) {
         measure_.reset();
         measureSurface_.reset();

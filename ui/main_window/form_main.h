@@ -30,8 +30,6 @@ class QPagedPaintDevice;
 
 inline constexpr int kRecentCount = 9;
 inline constexpr int kPendingCapacity = 16;
-inline constexpr int kSheetPixelsWide = 796;
-inline constexpr int kSheetPixelsHigh = 1125;
 inline constexpr int kToolbarHeight = 55;
 
 // Reads a command line into the waiting files: one name, or a quoted list of .col files.

@@ -15,6 +15,8 @@
 #include "core/collection.h"
 #include "core/editing.h"
 #include "ui/main_window/form_splash.h"
+#include "ui/main_window/page_setup_dialog.h"
+#include "ui/main_window/versions_dialog.h"
 
 // The menus, the toolbar and the state of their items.
 
@@ -92,9 +94,13 @@ void FormMain::BuildFileMenu() {
     AddItem(file, "mnu_File_Save", "&Save", [this] { SaveCommand(); })->setShortcuts(StandardKeys(QKeySequence::Save, Qt::CTRL | Qt::Key_S));
     AddItem(file, "mnu_File_SaveAs", "Save &as...", [this] { SaveAsCommand(); })->setShortcuts(StandardKeys(QKeySequence::SaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     file->addSeparator();
+    AddItem(file, "mnu_File_SaveVersion", "Save &version as...", [this] { SaveVersionCommand(*this); });
+    file->addSeparator();
+    AddItem(file, "mnu_File_PageSetup", "Page set&up...", [this] { PageSetupCommand(*this); });
     AddItem(file, "mnu_File_Print", "&Print...", [this] { PrintCommand(); })->setShortcuts(StandardKeys(QKeySequence::Print, Qt::CTRL | Qt::Key_P));
     AddItem(file, "mnu_File_PrintPreview", "Print Pre&view...", [this] { PrintPreviewCommand(); });
     AddItem(file, "mnu_File_ExportPdf", "Export as P&DF...", [this] { ExportPdfCommand(); });
+    AddItem(file, "mnu_File_Versions", "&Versions...", [this] { VersionsCommand(*this); });
     zep04_ = file->addSeparator();
     zep04_->setObjectName("zep04");
     items_["zep04"] = zep04_;

@@ -21,6 +21,7 @@
 
 #include "core/composition.h"
 #include "core/editing.h"
+#include "core/page_setup.h"
 #include "typesetter/qt_surface.h"
 #include "ui/main_window/main_window_files.h"
 
@@ -231,8 +232,8 @@ void FormMain::DrawCurrentPage() {
     const double zoom = app_.ZoomScale;
     // The picture has the screen's own pixels, so that it stays sharp on dense screens.
     const double ratio = std::max(1.0, devicePixelRatioF());
-    QImage image(static_cast<int>(std::lround(kSheetPixelsWide * zoom * ratio)),
-                 static_cast<int>(std::lround(kSheetPixelsHigh * zoom * ratio)), QImage::Format_RGB32);
+    QImage image(static_cast<int>(std::lround(SheetPixelsWide(app_.Page.paper) * zoom * ratio)),
+                 static_cast<int>(std::lround(SheetPixelsHigh(app_.Page.paper) * zoom * ratio)), QImage::Format_RGB32);
     image.fill(Qt::white);
     app_.ZoomScale = zoom * ratio;
     {
@@ -264,7 +265,7 @@ void FormMain::ZoomCommand(const QString& item, double scale) {
 
 void FormMain::FitWidthCommand() {
     firstActivation_ = false;
-    const double scale = (client_->width() - kPicture3Width - 28) / static_cast<double>(kSheetPixelsWide);
+    const double scale = (client_->width() - kPicture3Width - 28) / static_cast<double>(SheetPixelsWide(app_.Page.paper));
     ZoomCommand("mnu_zoomANCHO", std::max(0.5, scale));
 }
 
@@ -279,7 +280,7 @@ void FormMain::resizeEvent(QResizeEvent* event) {
 void FormMain::RefitWidth() {
     QAction* fit = Item("mnu_zoomANCHO");
     if (!fit || !fit->isChecked() || firstActivation_ || app_.BusyFlag) return;
-    const double scale = std::max(0.5, (client_->width() - kPicture3Width - 28) / static_cast<double>(kSheetPixelsWide));
+    const double scale = std::max(0.5, (client_->width() - kPicture3Width - 28) / static_cast<double>(SheetPixelsWide(app_.Page.paper)));
     if (std::abs(scale - app_.ZoomScale) < 0.002) return;
     FitWidthCommand();
 }
@@ -299,8 +300,8 @@ void FormMain::Geometry() {
     const int W = client_->width();
     const int H = client_->height();
     const int T = kToolbarHeight;
-    const int P = static_cast<int>(kSheetPixelsWide * app_.ZoomScale);
-    const int Q = static_cast<int>(kSheetPixelsHigh * app_.ZoomScale);
+    const int P = static_cast<int>(SheetPixelsWide(app_.Page.paper) * app_.ZoomScale);
+    const int Q = static_cast<int>(SheetPixelsHigh(app_.Page.paper) * app_.ZoomScale);
     picture1_->resize(P, Q);
     toolbar_->setGeometry(0, 0, W, T);
     picture3_->setGeometry(W - kPicture3Width, T, kPicture3Width, H - T - kPicture2Height);

@@ -11,6 +11,7 @@
 #include <QPrinterInfo>
 
 #include "core/page_render.h"
+#include "core/page_setup.h"
 #include "core/safe_write.h"
 #include "typesetter/qt_surface.h"
 #include "ui/main_window/main_window_files.h"
@@ -51,6 +52,7 @@ void FormMain::PrintCommand() {
     }
     QPrinter printer(QPrinterInfo::printerInfo(printer_), QPrinter::HighResolution);
     printer.setFullPage(true);
+    printer.setPageSize(QPageSize(app_.Page.paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
     printer.setDocName(QString::fromStdString(app_.Settings.Title));
     PrintPages(printer, options);
 }
@@ -80,7 +82,7 @@ void FormMain::PrintPreviewCommand() {
     if (printer_ != kPdfPrinterName && QPrinterInfo::availablePrinterNames().contains(printer_))
         printer.setPrinterName(printer_);
     printer.setFullPage(true);
-    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageSize(QPageSize(app_.Page.paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
     printer.setDocName(QString::fromStdString(app_.Settings.Title));
     QPrintPreviewDialog dialog(&printer, this);
     dialog.setObjectName("PrintPreviewDialog");
@@ -100,7 +102,7 @@ void FormMain::WritePdf(const QString& target, const PrintOptions& options) {
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::WriteOnly);
         QPdfWriter writer(&buffer);
-        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageSize(QPageSize(app_.Page.paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));
         writer.setResolution(1200);
         writer.setCreator("Sumforge");

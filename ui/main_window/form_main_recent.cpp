@@ -9,6 +9,7 @@
 #include "core/collection.h"
 #include "core/editing.h"
 #include "ui/main_window/main_window_files.h"
+#include "ui/main_window/page_setup_dialog.h"
 
 // The recent files of the File menu and the settings the window keeps.
 
@@ -31,6 +32,7 @@ void FormMain::ReadSettings() {
     zep04_->setVisible(any);
     lastPath_ = settings.value("LastPath/Path").toString();
     lastPdfPath_ = settings.value("LastPath/PdfPath").toString();
+    app_.Page = ReadPageSetup();
 }
 
 void FormMain::WriteSettings() {

@@ -5,11 +5,8 @@
 #include "tests/typesetter/typesetter_test_util.h"
 
 namespace {
-struct Fixture : ::testing::Test {
-    TypesetterState st;
-    RecordingSurface s;
-    void SetUp() override { WidePage(st); }
-    LayoutBox Measure(const std::string& text) { return MeasureString(st, s, text); }
+// The shared fixture, drawing from the page's corner.
+struct Fixture : ConstructFixture {
     void Draw(const std::string& text, double x = 0, double y = 0) { MeasureAndDraw(st, s, text, x, y); }
 };
 using Interpreter = Fixture;

@@ -324,8 +324,11 @@ TEST(ParseFillListTest, KindWidthHeight) {
 TEST(ExpandLocaleCodesTest, AllSix) {
     TypesetterState st;
     EXPECT_EQ(ExpandLocaleCodes(st, U"3&.5&,&(a&)&FA&DT"), U"3.5,(a)f&sigma");
-    st.DecimalPointText = std::u32string(1, U',');
+    st.numberTexts.decimalSeparator = ",";
     EXPECT_EQ(ExpandLocaleCodes(st, U"3&.5"), U"3,5");
+    // The texts are UTF-8; the line gets their characters.
+    st.numberTexts.functionName = "\u0192";
+    EXPECT_EQ(ExpandLocaleCodes(st, U"&FA(x)"), U"\u0192(x)");
 }
 
 TEST_F(Interpreter, MeasureAndDrawTakeTheSameBoxNumbers) {

@@ -71,21 +71,21 @@ private:
     struct Code {
         std::u32string_view prefix; // the entry is tried when the text at p begins with it
         Reader read;
+        // A value code "&XX=value:": the value is read into value_ first, and a code with no
+        // ":" behind it ends the whole call.
+        bool takesValue = false;
     };
     // Every code of the language, in the order in which they are tried.
     static const Code kCodes[];
 
     Step ReadToken(std::size_t& p);
 
-    // "#" codes.
+    // "#" codes, and the doubled signs "##" and "&&".
     Step MarkCode(std::size_t& p);
-    Step LiteralHash(std::size_t& p);
+    Step DoubledSign(std::size_t& p);
     Step ConstructCode(std::size_t& p);
     // "&" switches and value codes.
-    Step ItalicCode(std::size_t& p);
-    Step BoldCode(std::size_t& p);
-    Step UnderlineCode(std::size_t& p);
-    Step StrikethruCode(std::size_t& p);
+    Step StyleSwitch(std::size_t& p);
     Step FontSizeCode(std::size_t& p);
     Step FontNameCode(std::size_t& p);
     Step ForeColorCode(std::size_t& p);
@@ -98,7 +98,6 @@ private:
     Step HardSpace(std::size_t& p);
     Step DrawnSignCode(std::size_t& p);
     Step SoftHyphen(std::size_t& p);
-    Step LiteralAmpersand(std::size_t& p);
     Step PowerOfTenCode(std::size_t& p);
     Step UnknownCode(std::size_t& p);
     // Scripts and plain text.
@@ -151,6 +150,7 @@ private:
     int segmentCount_ = 0;
     int firstCounted_ = 1;
     std::size_t breakAt_ = 0;
+    std::u32string value_; // the value of the value code being read
     // The last plain character, and whether it was an italic letter: a delimiter beside an
     // italic letter keeps it clear.
     char32_t lastCharacter_ = 0;
@@ -161,23 +161,23 @@ private:
 // the code pass it on. The empty prefix at the end takes any character as plain text.
 const Interpreter::Code Interpreter::kCodes[] = {
     {U"#MARK", &Interpreter::MarkCode},
-    {U"##", &Interpreter::LiteralHash},
+    {U"##", &Interpreter::DoubledSign},
     {U"#", &Interpreter::ConstructCode},
-    {U"&+I", &Interpreter::ItalicCode},
-    {U"&-I", &Interpreter::ItalicCode},
-    {U"&+B", &Interpreter::BoldCode},
-    {U"&-B", &Interpreter::BoldCode},
-    {U"&+U", &Interpreter::UnderlineCode},
-    {U"&-U", &Interpreter::UnderlineCode},
-    {U"&+S", &Interpreter::StrikethruCode},
-    {U"&-S", &Interpreter::StrikethruCode},
-    {U"&FS", &Interpreter::FontSizeCode},
-    {U"&FN", &Interpreter::FontNameCode},
-    {U"&FC", &Interpreter::ForeColorCode},
-    {U"&BC", &Interpreter::FillColorCode},
-    {U"&LC", &Interpreter::LineColorCode},
-    {U"&FF", &Interpreter::FillCode},
-    {U"&SP", &Interpreter::ColumnCode},
+    {U"&+I", &Interpreter::StyleSwitch},
+    {U"&-I", &Interpreter::StyleSwitch},
+    {U"&+B", &Interpreter::StyleSwitch},
+    {U"&-B", &Interpreter::StyleSwitch},
+    {U"&+U", &Interpreter::StyleSwitch},
+    {U"&-U", &Interpreter::StyleSwitch},
+    {U"&+S", &Interpreter::StyleSwitch},
+    {U"&-S", &Interpreter::StyleSwitch},
+    {U"&FS", &Interpreter::FontSizeCode, true},
+    {U"&FN", &Interpreter::FontNameCode, true},
+    {U"&FC", &Interpreter::ForeColorCode, true},
+    {U"&BC", &Interpreter::FillColorCode, true},
+    {U"&LC", &Interpreter::LineColorCode, true},
+    {U"&FF", &Interpreter::FillCode, true},
+    {U"&SP", &Interpreter::ColumnCode, true},
     {U"&", &Interpreter::EntityCode},
     {U"& ", &Interpreter::HardSpace},
     {U"&|", &Interpreter::HardSpace},
@@ -185,7 +185,7 @@ const Interpreter::Code Interpreter::kCodes[] = {
     {U"&=", &Interpreter::DrawnSignCode},
     {U"&#", &Interpreter::DrawnSignCode},
     {U"&_", &Interpreter::SoftHyphen},
-    {U"&&", &Interpreter::LiteralAmpersand},
+    {U"&&", &Interpreter::DoubledSign},
     {U"&E", &Interpreter::PowerOfTenCode},
     {U"&", &Interpreter::UnknownCode},
     {U"_", &Interpreter::ScriptCode},
@@ -234,6 +234,7 @@ void Interpreter::Run() {
 Interpreter::Step Interpreter::ReadToken(std::size_t& p) {
     for (const Code& code : kCodes) {
         if (!At(text_, p, code.prefix)) continue;
+        if (code.takesValue && !ValueCode(p, value_)) return Step::Abandon;
         const Step step = (this->*code.read)(p);
         if (step != Step::NotMine) return step;
     }
@@ -255,8 +256,9 @@ Interpreter::Step Interpreter::MarkCode(std::size_t& p) {
     return Step::Next;
 }
 
-Interpreter::Step Interpreter::LiteralHash(std::size_t& p) {
-    PlainCharacter(U'#');
+// "##" prints "#" and "&&" prints "&".
+Interpreter::Step Interpreter::DoubledSign(std::size_t& p) {
+    PlainCharacter(text_[p]);
     p += 2;
     return Step::Next;
 }
@@ -267,34 +269,21 @@ Interpreter::Step Interpreter::ConstructCode(std::size_t& p) {
     return Step::Next;
 }
 
-Interpreter::Step Interpreter::ItalicCode(std::size_t& p) {
-    s_.SetFontItalic(text_[p + 1] == U'+');
+// "&+X" turns a style on, "&-X" off: I italic, B bold, U underline, S strikethrough.
+Interpreter::Step Interpreter::StyleSwitch(std::size_t& p) {
+    const bool on = text_[p + 1] == U'+';
+    switch (text_[p + 2]) {
+    case U'I': s_.SetFontItalic(on); break;
+    case U'B': s_.SetFontBold(on); break;
+    case U'U': s_.SetFontUnderline(on); break;
+    default: s_.SetFontStrikethru(on); break;
+    }
     p += 3;
     return Step::Next;
 }
 
-Interpreter::Step Interpreter::BoldCode(std::size_t& p) {
-    s_.SetFontBold(text_[p + 1] == U'+');
-    p += 3;
-    return Step::Next;
-}
-
-Interpreter::Step Interpreter::UnderlineCode(std::size_t& p) {
-    s_.SetFontUnderline(text_[p + 1] == U'+');
-    p += 3;
-    return Step::Next;
-}
-
-Interpreter::Step Interpreter::StrikethruCode(std::size_t& p) {
-    s_.SetFontStrikethru(text_[p + 1] == U'+');
-    p += 3;
-    return Step::Next;
-}
-
-Interpreter::Step Interpreter::FontSizeCode(std::size_t& p) {
-    std::u32string value;
-    if (!ValueCode(p, value)) return Step::Abandon;
-    s_.SetFontSize(LeadingNumber(value) * st_.ZoomScale);
+Interpreter::Step Interpreter::FontSizeCode(std::size_t&) {
+    s_.SetFontSize(LeadingNumber(value_) * st_.ZoomScale);
     fontSize_ = s_.FontSize();
     ReadMetrics();
     s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
@@ -302,47 +291,37 @@ Interpreter::Step Interpreter::FontSizeCode(std::size_t& p) {
     return Step::Next;
 }
 
-Interpreter::Step Interpreter::FontNameCode(std::size_t& p) {
-    std::u32string value;
-    if (!ValueCode(p, value)) return Step::Abandon;
+Interpreter::Step Interpreter::FontNameCode(std::size_t&) {
     s_.SetFontName("Courier New");
-    s_.SetFontName(ToUtf8(value));
+    s_.SetFontName(ToUtf8(value_));
     ReadMetrics();
     s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
     PlainTextInNewFont();
     return Step::Next;
 }
 
-Interpreter::Step Interpreter::ForeColorCode(std::size_t& p) {
-    std::u32string value;
-    if (!ValueCode(p, value)) return Step::Abandon;
-    if (st_.DrawPass) s_.SetForeColor(ParseColor(value));
+Interpreter::Step Interpreter::ForeColorCode(std::size_t&) {
+    if (st_.DrawPass) s_.SetForeColor(ParseColor(value_));
     return Step::Next;
 }
 
-Interpreter::Step Interpreter::FillColorCode(std::size_t& p) {
-    std::u32string value;
-    if (!ValueCode(p, value)) return Step::Abandon;
-    if (st_.DrawPass) st_.FillColor = ParseColor(value);
+Interpreter::Step Interpreter::FillColorCode(std::size_t&) {
+    if (st_.DrawPass) st_.FillColor = ParseColor(value_);
     return Step::Next;
 }
 
-Interpreter::Step Interpreter::LineColorCode(std::size_t& p) {
-    std::u32string value;
-    if (!ValueCode(p, value)) return Step::Abandon;
-    st_.LineColor = ParseColor(value);
+Interpreter::Step Interpreter::LineColorCode(std::size_t&) {
+    st_.LineColor = ParseColor(value_);
     return Step::Next;
 }
 
 // "&FF=REC,w,h:" fills a box of w by h mm from the pen in the fill colour; a size of 0
 // reaches to the surface's edge.
-Interpreter::Step Interpreter::FillCode(std::size_t& p) {
-    std::u32string value;
-    if (!ValueCode(p, value)) return Step::Abandon;
+Interpreter::Step Interpreter::FillCode(std::size_t&) {
     if (!st_.DrawPass) return Step::Next;
     std::u32string kind;
     double w = 0, h = 0;
-    ParseFillList(value, kind, w, h);
+    ParseFillList(value_, kind, w, h);
     if (kind != U"REC") return Step::Next;
     const double x = s_.CurrentX(), y = s_.CurrentY();
     if (w == 0) {
@@ -361,10 +340,8 @@ Interpreter::Step Interpreter::FillCode(std::size_t& p) {
 }
 
 // "&SP=n:" puts the pen at n % of the text width; the width counts from there.
-Interpreter::Step Interpreter::ColumnCode(std::size_t& p) {
-    std::u32string value;
-    if (!ValueCode(p, value)) return Step::Abandon;
-    const double x = LeadingNumber(value) / 100 * (st_.PageWidth - st_.MarginLeft - st_.MarginRight) + entryX_;
+Interpreter::Step Interpreter::ColumnCode(std::size_t&) {
+    const double x = LeadingNumber(value_) / 100 * (st_.PageWidth - st_.MarginLeft - st_.MarginRight) + entryX_;
     if (st_.DrawPass) {
         s_.SetCurrentX(x);
         st_.InkGroup += 1;
@@ -410,12 +387,6 @@ Interpreter::Step Interpreter::SoftHyphen(std::size_t& p) {
     }
     p += 2;
     return Step::BreakPoint;
-}
-
-Interpreter::Step Interpreter::LiteralAmpersand(std::size_t& p) {
-    PlainCharacter(U'&');
-    p += 2;
-    return Step::Next;
 }
 
 Interpreter::Step Interpreter::PowerOfTenCode(std::size_t& p) {

@@ -31,14 +31,7 @@ ApplicationState::ApplicationState(GeneratorHub generators)
       window(&quietWindow_),
       measure(&fitAll_) {
     // The number texts are set once, for the generators and the number services.
-    NumberSymbols& symbols = hub.Workspace().symbols;
-    symbols.timesTen = numberTexts.timesTen;
-    symbols.decimalSeparator = numberTexts.decimalSeparator;
-    symbols.listSeparator = numberTexts.listSeparator;
-    symbols.openParenthesis = numberTexts.openBracket;
-    symbols.closeParenthesis = numberTexts.closeBracket;
-    symbols.functionLetter = numberTexts.functionName;
-    symbols.deviationSymbol = numberTexts.deviationMarkup;
+    hub.Workspace().symbols = numberTexts;
     ToolVisible.fill(true);
     ToolEnabled.fill(true);
     for (int i = 2; i <= 7; ++i) ToolEnabled[i] = false;

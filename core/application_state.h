@@ -9,6 +9,7 @@
 #include "core/ports.h"
 #include "core/safe_write.h"
 #include "generators/hub.h"
+#include "mathservices/number_texts.h"
 
 // Build constants: compile-time texts, not settings.
 inline constexpr const char* kBuildLanguage = "ENG";
@@ -22,17 +23,6 @@ inline constexpr int kMaxModuleNames = 999;
 inline constexpr int kMarkCapacity = 500;
 inline constexpr int kMaxPages = 500;
 inline constexpr int kToolCount = 12;
-
-// The number texts the generators and the number services write with.
-struct NumberTexts {
-    std::string timesTen = "\u00B710";
-    std::string decimalSeparator = ".";
-    std::string listSeparator = ",";
-    std::string openBracket = "(";
-    std::string closeBracket = ")";
-    std::string functionName = "f";
-    std::string deviationMarkup = "&sigma";
-};
 
 // One problem: everything needed to make it again, and its finished texts.
 struct ProblemRecord {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "mathservices/math_workspace.h"
+#include "mathservices/number_texts.h"
 
 // The contract between the frame and every generator routine: the problem code, the one
 // block of request and result fields, and the describe block of the catalogue.
@@ -23,17 +24,6 @@ std::string MakeProblemCode(const ProblemCodeFields& fields);
 ProblemCodeFields ReadProblemCode(const std::string& code);
 // True when code is exactly 16 decimal digits.
 bool IsProblemCode(const std::string& code);
-
-// The symbols with which generators write numbers.
-struct NumberSymbols {
-    std::string decimalSeparator = ".";
-    std::string listSeparator = ",";
-    std::string openParenthesis = "(";
-    std::string closeParenthesis = ")";
-    std::string functionLetter = "f";
-    std::string deviationSymbol = "&sigma";
-    std::string timesTen = "\u00B710";
-};
 
 struct GeneratorWorkspace : MathWorkspace {
     std::int16_t DescribeMode = 0;
@@ -57,7 +47,8 @@ struct GeneratorWorkspace : MathWorkspace {
     std::string Description;
     std::string MaxAmount;
 
-    NumberSymbols symbols;
+    // The texts with which generators write numbers.
+    NumberTexts symbols;
 };
 
 // The literal describe block of one routine. An empty maxAmount leaves the field as the

@@ -1,5 +1,11 @@
 #pragma once
-#include "typesetter/constructs.h"
+#include <string>
+
+#include "typesetter/drawing_surface.h"
+#include "typesetter/typesetter_state.h"
+
+// The handler of each construct tag (the tag table names them), one file of the folder for
+// each family.
 
 // Fractions and stacked forms.
 void FractionHandler(TypesetterState&, const std::u32string&, DrawingSurface&, std::u32string&);

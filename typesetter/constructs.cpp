@@ -1,7 +1,6 @@
 #include "typesetter/constructs.h"
 
 #include "typesetter/construct_handlers.h"
-#include "typesetter/markup.h"
 
 namespace {
 const std::vector<ConstructTag> kTags = [] {
@@ -45,21 +44,4 @@ const ConstructTag* FindConstructTag(const std::u32string& text, std::size_t pos
     for (const auto& tag : kTags)
         if (text.compare(pos, 5, tag.open) == 0) return &tag;
     return nullptr;
-}
-
-void ErrorPieceHandler(TypesetterState& st, const std::u32string& piece, DrawingSurface& s, std::u32string&) {
-    const int myBox = st.BoxCounter;
-    if (st.DrawPass) {
-        st.BoxTable[myBox].drawX = s.CurrentX();
-        st.BoxTable[myBox].drawY = s.CurrentY();
-        ChildBox(st, myBox, 1);
-    }
-    const int child = InterpretPiece(st, myBox, 1, ErrorDisplayText(piece), s);
-    if (!st.DrawPass) {
-        LayoutBox box = st.BoxTable[child];
-        box.lead = 0;
-        box.width = st.BoxTable[child].lead + st.BoxTable[child].width;
-        box.source = piece;
-        st.BoxTable[myBox] = box;
-    }
 }

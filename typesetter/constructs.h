@@ -22,7 +22,3 @@ struct ConstructTag {
 const std::vector<ConstructTag>& ConstructTags();
 // The tag that opens at position pos (0-based) of text, or nullptr.
 const ConstructTag* FindConstructTag(const std::u32string& text, std::size_t pos);
-
-// Shown in place of a construct whose text isn't balanced.
-void ErrorPieceHandler(TypesetterState& state, const std::u32string& piece, DrawingSurface& surface,
-                       std::u32string& fittedHead);

@@ -61,15 +61,15 @@ SavedFont SaveFont(DrawingSurface& s) {
 // The top of a line (lineY, from the top margin) moved below every hung picture that it
 // would touch; a line that stays clear of a picture's sides flows beside it, unless it opens
 // the next problem, which never stands beside the picture of another.
-double KeepClearOfPictures(const TypesetterState& st, double lineY, double left, double right, double gapX,
-                           double gapY, bool opensProblem) {
+double KeepClearOfPictures(const PageSetup& page, const FlowState& flow, double lineY, double left, double right,
+                           double gapX, double gapY, bool opensProblem) {
     bool moved = true;
     while (moved) {
         moved = false;
-        for (const TypesetterState::HungPicture& p : st.HungPictures) {
+        for (const FlowState::HungPicture& p : flow.HungPictures) {
             const bool beside = !opensProblem && (right + gapX <= p.left || left >= p.right + gapX);
-            if (!beside && lineY + st.MarginTop < p.bottom + gapY) {
-                lineY = p.bottom + gapY - st.MarginTop;
+            if (!beside && lineY + page.MarginTop < p.bottom + gapY) {
+                lineY = p.bottom + gapY - page.MarginTop;
                 moved = true;
             }
         }
@@ -152,26 +152,17 @@ void LayoutText(TypesetterState& st, const std::string& utf8Text, double& baseSi
         bool pageFull = false;
         std::u32string head;
         do {
-            st.BoxCounter = 1;
-            st.FractionDepth = 0;
-            st.ScriptDepth = 0;
-            st.BoxOverflow = false;
-            st.LineHang = 0;
+            StartLine(st);
             const SavedFont saved = SaveFont(surface);
             th = surface.TextHeight("H");
-            st.DrawPass = false;
             InterpretMarkup(st, line, surface, head);
 
-            st.BoxCounter = 1;
-            st.DrawPass = true;
-            st.FractionDepth = 0;
-            st.ScriptDepth = 0;
-            st.BoxOverflow = false;
+            StartPass(st, true);
             RestoreFont(surface, saved);
             const LayoutBox& box = st.BoxTable[1];
             if (!st.HungPictures.empty()) {
                 const double left = st.LineIndent + st.MarginLeft;
-                lineY = KeepClearOfPictures(st, lineY, left, left + box.lead + box.width, th / 2, th / 5, opensProblem);
+                lineY = KeepClearOfPictures(st, st, lineY, left, left + box.lead + box.width, th / 2, th / 5, opensProblem);
                 opensProblem = false;
             }
             surface.SetCurrentX(box.lead + st.LineIndent + st.MarginLeft);

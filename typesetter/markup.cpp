@@ -31,6 +31,25 @@ bool IsClosingDelimiter(char32_t c) { return c == U')' || c == U']' || c == U'}'
 bool IsOpeningDelimiter(char32_t c) { return c == U'(' || c == U'[' || c == U'{' || c == U'|'; }
 bool IsLetter(char32_t c) { return (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z'); }
 
+// Shown in place of a construct whose text isn't balanced: the red error and the tag, as
+// plain text of one piece.
+void ErrorPieceHandler(TypesetterState& st, const std::u32string& piece, DrawingSurface& s, std::u32string&) {
+    const int myBox = st.BoxCounter;
+    if (st.DrawPass) {
+        st.BoxTable[myBox].drawX = s.CurrentX();
+        st.BoxTable[myBox].drawY = s.CurrentY();
+        ChildBox(st, myBox, 1);
+    }
+    const int child = InterpretPiece(st, myBox, 1, ErrorDisplayText(piece), s);
+    if (!st.DrawPass) {
+        LayoutBox box = st.BoxTable[child];
+        box.lead = 0;
+        box.width = st.BoxTable[child].lead + st.BoxTable[child].width;
+        box.source = piece;
+        st.BoxTable[myBox] = box;
+    }
+}
+
 // One call of the interpreter: the frame of the routine.
 class Interpreter {
 public:
@@ -40,6 +59,51 @@ public:
     void Run();
 
 private:
+    // What reading one code asks of the loop.
+    enum class Step {
+        Next,       // go on with the next token
+        BreakPoint, // go on; a line may break behind this token
+        NotMine,    // the code is not this entry's: try the next entry of the table
+        Stop,       // stop reading; the box is closed
+        Abandon,    // stop reading and leave the box as it stands (a value code without ":")
+    };
+    using Reader = Step (Interpreter::*)(std::size_t& p);
+    struct Code {
+        std::u32string_view prefix; // the entry is tried when the text at p begins with it
+        Reader read;
+        // A value code "&XX=value:": the value is read into value_ first, and a code with no
+        // ":" behind it ends the whole call.
+        bool takesValue = false;
+    };
+    // Every code of the language, in the order in which they are tried.
+    static const Code kCodes[];
+
+    Step ReadToken(std::size_t& p);
+
+    // "#" codes, and the doubled signs "##" and "&&".
+    Step MarkCode(std::size_t& p);
+    Step DoubledSign(std::size_t& p);
+    Step ConstructCode(std::size_t& p);
+    // "&" switches and value codes.
+    Step StyleSwitch(std::size_t& p);
+    Step FontSizeCode(std::size_t& p);
+    Step FontNameCode(std::size_t& p);
+    Step ForeColorCode(std::size_t& p);
+    Step FillColorCode(std::size_t& p);
+    Step LineColorCode(std::size_t& p);
+    Step FillCode(std::size_t& p);
+    Step ColumnCode(std::size_t& p);
+    // "&" symbols and signs.
+    Step EntityCode(std::size_t& p);
+    Step HardSpace(std::size_t& p);
+    Step DrawnSignCode(std::size_t& p);
+    Step SoftHyphen(std::size_t& p);
+    Step PowerOfTenCode(std::size_t& p);
+    Step UnknownCode(std::size_t& p);
+    // Scripts and plain text.
+    Step ScriptCode(std::size_t& p);
+    Step PlainText(std::size_t& p);
+
     void ReadMetrics() {
         H_ = s_.TextHeight("Hp");
         ascent_ = AscentTwips(st_, s_);
@@ -86,10 +150,47 @@ private:
     int segmentCount_ = 0;
     int firstCounted_ = 1;
     std::size_t breakAt_ = 0;
+    std::u32string value_; // the value of the value code being read
     // The last plain character, and whether it was an italic letter: a delimiter beside an
     // italic letter keeps it clear.
     char32_t lastCharacter_ = 0;
     bool lastItalicLetter_ = false;
+};
+
+// Longer codes stand before the shorter ones that begin them; "&" entries that don't know
+// the code pass it on. The empty prefix at the end takes any character as plain text.
+const Interpreter::Code Interpreter::kCodes[] = {
+    {U"#MARK", &Interpreter::MarkCode},
+    {U"##", &Interpreter::DoubledSign},
+    {U"#", &Interpreter::ConstructCode},
+    {U"&+I", &Interpreter::StyleSwitch},
+    {U"&-I", &Interpreter::StyleSwitch},
+    {U"&+B", &Interpreter::StyleSwitch},
+    {U"&-B", &Interpreter::StyleSwitch},
+    {U"&+U", &Interpreter::StyleSwitch},
+    {U"&-U", &Interpreter::StyleSwitch},
+    {U"&+S", &Interpreter::StyleSwitch},
+    {U"&-S", &Interpreter::StyleSwitch},
+    {U"&FS", &Interpreter::FontSizeCode, true},
+    {U"&FN", &Interpreter::FontNameCode, true},
+    {U"&FC", &Interpreter::ForeColorCode, true},
+    {U"&BC", &Interpreter::FillColorCode, true},
+    {U"&LC", &Interpreter::LineColorCode, true},
+    {U"&FF", &Interpreter::FillCode, true},
+    {U"&SP", &Interpreter::ColumnCode, true},
+    {U"&", &Interpreter::EntityCode},
+    {U"& ", &Interpreter::HardSpace},
+    {U"&|", &Interpreter::HardSpace},
+    {U"&Q", &Interpreter::DrawnSignCode},
+    {U"&=", &Interpreter::DrawnSignCode},
+    {U"&#", &Interpreter::DrawnSignCode},
+    {U"&_", &Interpreter::SoftHyphen},
+    {U"&&", &Interpreter::DoubledSign},
+    {U"&E", &Interpreter::PowerOfTenCode},
+    {U"&", &Interpreter::UnknownCode},
+    {U"_", &Interpreter::ScriptCode},
+    {U"^", &Interpreter::ScriptCode},
+    {U"", &Interpreter::PlainText},
 };
 
 void Interpreter::Run() {
@@ -112,156 +213,9 @@ void Interpreter::Run() {
     std::size_t p = 0; // 0-based position of the next character
     while (p < len) {
         if (st_.BoxOverflow) break;
-        bool breakPoint = false;
-        const char32_t c = text_[p];
-        if (c == U'#') {
-            if (At(text_, p, U"#MARK")) {
-                if (st_.DrawPass) {
-                    const int n = st_.MarkCount;
-                    if (n >= 1 && n <= kMaxMarks) {
-                        const double top = entryY_ - st_.BoxTable[ownBox_].over;
-                        st_.MarkTop[n - 1] = top;
-                        if (n > 1) st_.MarkBottom[n - 2] = top - H_ / 8;
-                    }
-                }
-                p += 9;
-                // Blocks from 1000 on carry a four-digit mark: its digits are all the mark's.
-                while (p < len && text_[p] >= U'0' && text_[p] <= U'9') ++p;
-            } else if (At(text_, p, U"##")) {
-                PlainCharacter(U'#');
-                p += 2;
-            } else if (const ConstructTag* tag = FindConstructTag(text_, p)) {
-                if (!Construct(*tag, p)) break;
-            } else {
-                p += 1; // an unknown tag loses its "#" only
-            }
-        } else if (c == U'&') {
-            std::u32string value;
-            if (At(text_, p, U"&+I") || At(text_, p, U"&-I")) {
-                s_.SetFontItalic(text_[p + 1] == U'+');
-                p += 3;
-            } else if (At(text_, p, U"&+B") || At(text_, p, U"&-B")) {
-                s_.SetFontBold(text_[p + 1] == U'+');
-                p += 3;
-            } else if (At(text_, p, U"&+U") || At(text_, p, U"&-U")) {
-                s_.SetFontUnderline(text_[p + 1] == U'+');
-                p += 3;
-            } else if (At(text_, p, U"&+S") || At(text_, p, U"&-S")) {
-                s_.SetFontStrikethru(text_[p + 1] == U'+');
-                p += 3;
-            } else if (At(text_, p, U"&FS")) {
-                if (!ValueCode(p, value)) return;
-                s_.SetFontSize(LeadingNumber(value) * st_.ZoomScale);
-                fontSize_ = s_.FontSize();
-                ReadMetrics();
-                s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
-                PlainTextInNewFont();
-            } else if (At(text_, p, U"&FN")) {
-                if (!ValueCode(p, value)) return;
-                s_.SetFontName("Courier New");
-                s_.SetFontName(ToUtf8(value));
-                ReadMetrics();
-                s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
-                PlainTextInNewFont();
-            } else if (At(text_, p, U"&FC")) {
-                if (!ValueCode(p, value)) return;
-                if (st_.DrawPass) s_.SetForeColor(ParseColor(value));
-            } else if (At(text_, p, U"&BC")) {
-                if (!ValueCode(p, value)) return;
-                if (st_.DrawPass) st_.FillColor = ParseColor(value);
-            } else if (At(text_, p, U"&LC")) {
-                if (!ValueCode(p, value)) return;
-                st_.LineColor = ParseColor(value);
-            } else if (At(text_, p, U"&FF")) {
-                if (!ValueCode(p, value)) return;
-                if (st_.DrawPass) {
-                    std::u32string kind;
-                    double w = 0, h = 0;
-                    ParseFillList(value, kind, w, h);
-                    if (kind == U"REC") {
-                        const double x = s_.CurrentX(), y = s_.CurrentY();
-                        if (w == 0) {
-                            s_.SetCurrentX(0);
-                            w = s_.Width() * s_.TwipsPerPixelX() / 1440 * 25.4 / st_.ZoomScale;
-                        }
-                        if (h == 0) {
-                            s_.SetCurrentY(0);
-                            h = s_.Height() * s_.TwipsPerPixelY() / 1440 * 25.4 / st_.ZoomScale;
-                        }
-                        s_.FilledBox(s_.CurrentX(), s_.CurrentY(), w / 25.4 * 1440 * st_.ZoomScale,
-                                     h / 25.4 * 1440 * st_.ZoomScale, st_.FillColor);
-                        s_.SetCurrentX(x);
-                        s_.SetCurrentY(y);
-                    }
-                }
-            } else if (At(text_, p, U"&SP")) {
-                if (!ValueCode(p, value)) return;
-                const double x =
-                    LeadingNumber(value) / 100 * (st_.PageWidth - st_.MarginLeft - st_.MarginRight) + entryX_;
-                if (st_.DrawPass) {
-                    s_.SetCurrentX(x);
-                    st_.InkGroup += 1;
-                } else {
-                    pen_ = x;
-                }
-                firstCounted_ = segmentCount_ + 1;
-            } else {
-                int entity = 0;
-                for (int i = 1; i <= kSymbolCount; ++i) {
-                    if (At(text_, p, st_.SymbolName[i])) {
-                        entity = i;
-                        break;
-                    }
-                }
-                if (entity != 0) {
-                    Entity(entity);
-                    p += st_.SymbolName[entity].size();
-                } else if (At(text_, p, U"& ") || At(text_, p, U"&|")) {
-                    // "&|" parts the cells of a grid row; elsewhere it is a space that
-                    // doesn't break.
-                    if (st_.DrawPass) s_.PrintText(" ");
-                    else pen_ += s_.TextWidth(" ");
-                    p += 2;
-                } else if (At(text_, p, U"&Q") || At(text_, p, U"&=") || At(text_, p, U"&#")) {
-                    DrawnSign(text_[p + 1]);
-                    p += 2;
-                } else if (At(text_, p, U"&_")) {
-                    if (st_.DrawPass) {
-                        if (p + 2 == len) s_.PrintText("-");
-                    } else {
-                        pen_ += s_.TextWidth("-");
-                    }
-                    p += 2;
-                    breakPoint = true;
-                } else if (At(text_, p, U"&&")) {
-                    PlainCharacter(U'&');
-                    p += 2;
-                } else if (At(text_, p, U"&E")) {
-                    PowerOfTen(p);
-                } else {
-                    p += 1; // an unknown code loses its "&" only
-                }
-            }
-        } else if (c == U'_' || c == U'^') {
-            if (p + 1 < len && text_[p + 1] == c) {
-                PlainCharacter(c);
-            } else if (p + 1 < len) {
-                Script(text_[p + 1], c == U'_');
-            }
-            p += 2;
-        } else {
-            // A dash inside a word of upright text ("non-parallel", two letters on each side)
-            // is a hyphen; between variables ("a-b") it stays a minus.
-            const auto letter = [this, len](std::size_t i) {
-                const char32_t x = i < len ? text_[i] : U' ';
-                return (x >= U'a' && x <= U'z') || (x >= U'A' && x <= U'Z');
-            };
-            const bool hyphen = c == U'-' && p >= 2 && !s_.FontItalic() && letter(p - 1) && letter(p - 2) &&
-                                letter(p + 1) && letter(p + 2);
-            PlainCharacter(hyphen ? U'\u2010' : c);
-            breakPoint = (c == U' ');
-            p += 1;
-        }
+        const Step step = ReadToken(p);
+        if (step == Step::Abandon) return;
+        if (step == Step::Stop) break;
 
         if (!st_.DrawPass) {
             const double used = UsedWidth();
@@ -270,10 +224,207 @@ void Interpreter::Run() {
                 if (head_.empty()) head_ = text_.substr(0, breakAt_ != 0 ? breakAt_ : std::min(p, len));
                 break;
             }
-            if (breakPoint) breakAt_ = p; // the token's last position, 1-based
+            if (step == Step::BreakPoint) breakAt_ = p; // the token's last position, 1-based
         }
     }
     if (!st_.DrawPass) CloseBox();
+}
+
+// The first entry of the table that takes the code at p reads it.
+Interpreter::Step Interpreter::ReadToken(std::size_t& p) {
+    for (const Code& code : kCodes) {
+        if (!At(text_, p, code.prefix)) continue;
+        if (code.takesValue && !ValueCode(p, value_)) return Step::Abandon;
+        const Step step = (this->*code.read)(p);
+        if (step != Step::NotMine) return step;
+    }
+    return Step::Next; // not reached: the last entry takes every character
+}
+
+Interpreter::Step Interpreter::MarkCode(std::size_t& p) {
+    if (st_.DrawPass) {
+        const int n = st_.MarkCount;
+        if (n >= 1 && n <= kMaxMarks) {
+            const double top = entryY_ - st_.BoxTable[ownBox_].over;
+            st_.MarkTop[n - 1] = top;
+            if (n > 1) st_.MarkBottom[n - 2] = top - H_ / 8;
+        }
+    }
+    p += 9;
+    // Blocks from 1000 on carry a four-digit mark: its digits are all the mark's.
+    while (p < text_.size() && text_[p] >= U'0' && text_[p] <= U'9') ++p;
+    return Step::Next;
+}
+
+// "##" prints "#" and "&&" prints "&".
+Interpreter::Step Interpreter::DoubledSign(std::size_t& p) {
+    PlainCharacter(text_[p]);
+    p += 2;
+    return Step::Next;
+}
+
+Interpreter::Step Interpreter::ConstructCode(std::size_t& p) {
+    if (const ConstructTag* tag = FindConstructTag(text_, p)) return Construct(*tag, p) ? Step::Next : Step::Stop;
+    p += 1; // an unknown tag loses its "#" only
+    return Step::Next;
+}
+
+// "&+X" turns a style on, "&-X" off: I italic, B bold, U underline, S strikethrough.
+Interpreter::Step Interpreter::StyleSwitch(std::size_t& p) {
+    const bool on = text_[p + 1] == U'+';
+    switch (text_[p + 2]) {
+    case U'I': s_.SetFontItalic(on); break;
+    case U'B': s_.SetFontBold(on); break;
+    case U'U': s_.SetFontUnderline(on); break;
+    default: s_.SetFontStrikethru(on); break;
+    }
+    p += 3;
+    return Step::Next;
+}
+
+Interpreter::Step Interpreter::FontSizeCode(std::size_t&) {
+    s_.SetFontSize(LeadingNumber(value_) * st_.ZoomScale);
+    fontSize_ = s_.FontSize();
+    ReadMetrics();
+    s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
+    PlainTextInNewFont();
+    return Step::Next;
+}
+
+Interpreter::Step Interpreter::FontNameCode(std::size_t&) {
+    s_.SetFontName("Courier New");
+    s_.SetFontName(ToUtf8(value_));
+    ReadMetrics();
+    s_.SetCurrentY(entryY_ + entryAscent_ - ascent_);
+    PlainTextInNewFont();
+    return Step::Next;
+}
+
+Interpreter::Step Interpreter::ForeColorCode(std::size_t&) {
+    if (st_.DrawPass) s_.SetForeColor(ParseColor(value_));
+    return Step::Next;
+}
+
+Interpreter::Step Interpreter::FillColorCode(std::size_t&) {
+    if (st_.DrawPass) st_.FillColor = ParseColor(value_);
+    return Step::Next;
+}
+
+Interpreter::Step Interpreter::LineColorCode(std::size_t&) {
+    st_.LineColor = ParseColor(value_);
+    return Step::Next;
+}
+
+// "&FF=REC,w,h:" fills a box of w by h mm from the pen in the fill colour; a size of 0
+// reaches to the surface's edge.
+Interpreter::Step Interpreter::FillCode(std::size_t&) {
+    if (!st_.DrawPass) return Step::Next;
+    std::u32string kind;
+    double w = 0, h = 0;
+    ParseFillList(value_, kind, w, h);
+    if (kind != U"REC") return Step::Next;
+    const double x = s_.CurrentX(), y = s_.CurrentY();
+    if (w == 0) {
+        s_.SetCurrentX(0);
+        w = s_.Width() * s_.TwipsPerPixelX() / 1440 * 25.4 / st_.ZoomScale;
+    }
+    if (h == 0) {
+        s_.SetCurrentY(0);
+        h = s_.Height() * s_.TwipsPerPixelY() / 1440 * 25.4 / st_.ZoomScale;
+    }
+    s_.FilledBox(s_.CurrentX(), s_.CurrentY(), w / 25.4 * 1440 * st_.ZoomScale, h / 25.4 * 1440 * st_.ZoomScale,
+                 st_.FillColor);
+    s_.SetCurrentX(x);
+    s_.SetCurrentY(y);
+    return Step::Next;
+}
+
+// "&SP=n:" puts the pen at n % of the text width; the width counts from there.
+Interpreter::Step Interpreter::ColumnCode(std::size_t&) {
+    const double x = LeadingNumber(value_) / 100 * (st_.PageWidth - st_.MarginLeft - st_.MarginRight) + entryX_;
+    if (st_.DrawPass) {
+        s_.SetCurrentX(x);
+        st_.InkGroup += 1;
+    } else {
+        pen_ = x;
+    }
+    firstCounted_ = segmentCount_ + 1;
+    return Step::Next;
+}
+
+// The entities are tried from the first of the table on; the first that matches is printed.
+Interpreter::Step Interpreter::EntityCode(std::size_t& p) {
+    for (int i = 1; i <= kSymbolCount; ++i) {
+        if (At(text_, p, st_.SymbolName[i])) {
+            Entity(i);
+            p += st_.SymbolName[i].size();
+            return Step::Next;
+        }
+    }
+    return Step::NotMine;
+}
+
+// "&|" parts the cells of a grid row; elsewhere it is a space that doesn't break, as "& " is.
+Interpreter::Step Interpreter::HardSpace(std::size_t& p) {
+    if (st_.DrawPass) s_.PrintText(" ");
+    else pen_ += s_.TextWidth(" ");
+    p += 2;
+    return Step::Next;
+}
+
+Interpreter::Step Interpreter::DrawnSignCode(std::size_t& p) {
+    DrawnSign(text_[p + 1]);
+    p += 2;
+    return Step::Next;
+}
+
+// A hyphen only where a line is cut behind it, but its width counted everywhere.
+Interpreter::Step Interpreter::SoftHyphen(std::size_t& p) {
+    if (st_.DrawPass) {
+        if (p + 2 == text_.size()) s_.PrintText("-");
+    } else {
+        pen_ += s_.TextWidth("-");
+    }
+    p += 2;
+    return Step::BreakPoint;
+}
+
+Interpreter::Step Interpreter::PowerOfTenCode(std::size_t& p) {
+    PowerOfTen(p);
+    return Step::Next;
+}
+
+Interpreter::Step Interpreter::UnknownCode(std::size_t& p) {
+    p += 1; // an unknown code loses its "&" only
+    return Step::Next;
+}
+
+// "_c" and "^c" set one character as a script; "__" and "^^" print the sign itself.
+Interpreter::Step Interpreter::ScriptCode(std::size_t& p) {
+    const char32_t c = text_[p];
+    if (p + 1 < text_.size() && text_[p + 1] == c) {
+        PlainCharacter(c);
+    } else if (p + 1 < text_.size()) {
+        Script(text_[p + 1], c == U'_');
+    }
+    p += 2;
+    return Step::Next;
+}
+
+Interpreter::Step Interpreter::PlainText(std::size_t& p) {
+    const std::size_t len = text_.size();
+    const char32_t c = text_[p];
+    // A dash inside a word of upright text ("non-parallel", two letters on each side) is a
+    // hyphen; between variables ("a-b") it stays a minus.
+    const auto letter = [this, len](std::size_t i) {
+        const char32_t x = i < len ? text_[i] : U' ';
+        return (x >= U'a' && x <= U'z') || (x >= U'A' && x <= U'Z');
+    };
+    const bool hyphen = c == U'-' && p >= 2 && !s_.FontItalic() && letter(p - 1) && letter(p - 2) &&
+                        letter(p + 1) && letter(p + 2);
+    PlainCharacter(hyphen ? U'\u2010' : c);
+    p += 1;
+    return c == U' ' ? Step::BreakPoint : Step::Next;
 }
 
 void Interpreter::CloseBox() {
@@ -405,7 +556,7 @@ void Interpreter::PowerOfTen(std::size_t& p) {
     else if (!digits.empty() && digits[0] == U'-') digits[0] = kMinus;
     const bool italic = s_.FontItalic();
     s_.SetFontItalic(false);
-    const std::string ten = ToUtf8(st_.PowerOfTenText);
+    const std::string& ten = st_.numberTexts.timesTen;
     const std::string exponent = ToUtf8(digits);
     if (st_.DrawPass) {
         s_.PrintText(ten);
@@ -546,13 +697,16 @@ void ParseFillList(const std::u32string& text, std::u32string& kind, double& wid
     if (c2 != std::u32string::npos) height = LeadingNumber(text.substr(c2 + 1));
 }
 
-std::u32string ExpandLocaleCodes(const TypesetterState& state, const std::u32string& line) {
-    const std::pair<std::u32string, const std::u32string*> codes[] = {
-        {U"&.", &state.DecimalPointText},   {U"&,", &state.ListSeparatorText},  {U"&(", &state.OpenIntervalText},
-        {U"&)", &state.CloseIntervalText},  {U"&FA", &state.FunctionLetterText}, {U"&DT", &state.DeviationText},
+std::u32string ExpandLocaleCodes(const PageSetup& setup, const std::u32string& line) {
+    const NumberTexts& texts = setup.numberTexts;
+    const std::pair<std::u32string, const std::string*> codes[] = {
+        {U"&.", &texts.decimalSeparator}, {U"&,", &texts.listSeparator},  {U"&(", &texts.openBracket},
+        {U"&)", &texts.closeBracket},     {U"&FA", &texts.functionName}, {U"&DT", &texts.deviationMarkup},
     };
     std::u32string out = line;
-    for (const auto& [code, replacement] : codes) {
+    for (const auto& [code, utf8] : codes) {
+        if (out.find(code) == std::u32string::npos) continue;
+        const std::u32string replacement = ToU32(*utf8);
         std::u32string next;
         std::size_t pos = 0;
         while (true) {
@@ -562,7 +716,7 @@ std::u32string ExpandLocaleCodes(const TypesetterState& state, const std::u32str
                 break;
             }
             next.append(out, pos, found - pos);
-            next += *replacement;
+            next += replacement;
             pos = found + code.size();
         }
         out = std::move(next);
@@ -570,20 +724,20 @@ std::u32string ExpandLocaleCodes(const TypesetterState& state, const std::u32str
     return out;
 }
 
-double AscentTwips(const TypesetterState& state, DrawingSurface& surface) {
-    const DrawingSurface* screen = state.ScreenSurface;
-    const double tpp = (&surface != state.PrinterSurface && screen != nullptr) ? screen->TwipsPerPixelY()
+double AscentTwips(const PageSetup& setup, DrawingSurface& surface) {
+    const DrawingSurface* screen = setup.ScreenSurface;
+    const double tpp = (&surface != setup.PrinterSurface && screen != nullptr) ? screen->TwipsPerPixelY()
                                                                                  : surface.TwipsPerPixelY();
     return surface.Ascent() * tpp;
 }
 
-double StrokeTwipsPerPixel(const TypesetterState& state, const DrawingSurface& surface) {
-    if (&surface == state.PrinterSurface || state.ScreenSurface == nullptr) return surface.TwipsPerPixelX();
-    return state.ScreenSurface->TwipsPerPixelX();
+double StrokeTwipsPerPixel(const PageSetup& setup, const DrawingSurface& surface) {
+    if (&surface == setup.PrinterSurface || setup.ScreenSurface == nullptr) return surface.TwipsPerPixelX();
+    return setup.ScreenSurface->TwipsPerPixelX();
 }
 
-void SetStrokeWidth(const TypesetterState& state, DrawingSurface& surface, double t) {
-    const double px = t / StrokeTwipsPerPixel(state, surface);
+void SetStrokeWidth(const PageSetup& setup, DrawingSurface& surface, double t) {
+    const double px = t / StrokeTwipsPerPixel(setup, surface);
     surface.SetDrawWidth(px < 1 || !std::isfinite(px) ? 1 : static_cast<int>(std::min(px, 10000.0)));
 }
 
@@ -608,8 +762,8 @@ int InterpretPiece(TypesetterState& state, int parentBox, int place, const std::
     return InterpretPiece(state, parentBox, place, text, surface, scratch);
 }
 
-int ChildBox(const TypesetterState& state, int parentBox, int place) {
+int ChildBox(const LineBoxes& boxes, int parentBox, int place) {
     if (parentBox < 0 || parentBox > kMaxBoxes || place < 0 || place > kMaxChildren) return 0;
-    const int box = state.ChildTable[parentBox][place];
+    const int box = boxes.ChildTable[parentBox][place];
     return (box >= 0 && box <= kMaxBoxes) ? box : 0;
 }

@@ -27,16 +27,17 @@ std::u32string ErrorDisplayText(const std::u32string& errorText);
 // numbers behind the first and the second comma.
 void ParseFillList(const std::u32string& text, std::u32string& kind, double& width, double& height);
 
-// Replaces the locale codes "&." "&," "&(" "&)" "&FA" "&DT" of one line.
-std::u32string ExpandLocaleCodes(const TypesetterState& state, const std::u32string& line);
+// Replaces the locale codes "&." "&," "&(" "&)" "&FA" "&DT" of one line by the page setup's
+// number texts.
+std::u32string ExpandLocaleCodes(const PageSetup& setup, const std::u32string& line);
 
 // Shared by the constructs.
 // The font's ascent in twips.
-double AscentTwips(const TypesetterState& state, DrawingSurface& surface);
+double AscentTwips(const PageSetup& setup, DrawingSurface& surface);
 // Twips per pixel used to turn a stroke thickness into DrawWidth.
-double StrokeTwipsPerPixel(const TypesetterState& state, const DrawingSurface& surface);
+double StrokeTwipsPerPixel(const PageSetup& setup, const DrawingSurface& surface);
 // DrawWidth for a stroke of t twips: t / twips per pixel, not below 1.
-void SetStrokeWidth(const TypesetterState& state, DrawingSurface& surface, double t);
+void SetStrokeWidth(const PageSetup& setup, DrawingSurface& surface, double t);
 // Takes the next box for piece number place (0..9) of the construct whose box is
 // parentBox, records it (measure pass) and interprets text into it. Returns the box
 // number, or 0 when the box table is full (the piece is then left out, in both passes).
@@ -45,4 +46,4 @@ int InterpretPiece(TypesetterState& state, int parentBox, int place, const std::
 int InterpretPiece(TypesetterState& state, int parentBox, int place, const std::u32string& text,
                    DrawingSurface& surface);
 // The box number of child place of parentBox recorded by the measure pass (0: none).
-int ChildBox(const TypesetterState& state, int parentBox, int place);
+int ChildBox(const LineBoxes& boxes, int parentBox, int place);

@@ -78,7 +78,7 @@ std::uint32_t ColorNumber(const std::u32string& text) {
 
 TypesetterState::TypesetterState() { InitSymbolTables(*this); }
 
-void InitSymbolTables(TypesetterState& state) {
+void InitSymbolTables(SymbolTables& state) {
     for (int i = 1; i <= kSymbolCount; ++i) {
         const SymbolEntry& e = kSymbols[i - 1];
         state.SymbolName[i] = e.name;
@@ -86,7 +86,6 @@ void InitSymbolTables(TypesetterState& state) {
         state.SymbolCode[i] = e.code;
     }
     state.PiValue = 4.0 * std::atan(1.0);
-    state.LineColor = 0;
     state.OperatorShift = {{{0.072f, 0.07f, 0.072f}, {-0.012f, 0.0f, -0.012f}, {0.07f, 0.07f, 0.07f}}};
 }
 

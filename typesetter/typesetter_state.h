@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "mathservices/number_texts.h"
+
 class DrawingSurface;
 
 // The metric record of one string or construct. Distances are measured from the box's
@@ -29,46 +31,30 @@ inline constexpr int kSymbolCount = 78;
 // Constructs inside constructs that layout follows; a deeper one shows the red error.
 inline constexpr int kMaxConstructDepth = 32;
 
-// Every table of the typesetter, made by the caller and handed to each call. A test makes
-// a fresh one; nothing of the typesetter lives anywhere else.
-struct TypesetterState {
-    TypesetterState();
+// The tables of the typesetter, one group for each lifetime. TypesetterState joins them;
+// a routine that needs one group only takes that group.
 
-    // Symbols: entities 1..78 with the glyph printed for each (UTF-8) and its code in the
-    // symbol font it comes from.
+// Filled once by InitSymbolTables, read-only afterwards.
+struct SymbolTables {
+    // Entities 1..78 with the glyph printed for each (UTF-8) and its code in the symbol
+    // font it comes from.
     std::array<std::u32string, kSymbolCount + 1> SymbolName;
     std::array<std::string, kSymbolCount + 1> SymbolGlyph;
     std::array<int, kSymbolCount + 1> SymbolCode{};
     // Operator rise, row "+", minus, "=", column by size class 1..3; single precision.
     std::array<std::array<float, 3>, 3> OperatorShift{};
     double PiValue = 0;
+};
 
-    // Line-level tables.
-    std::array<LayoutBox, kMaxBoxes + 1> BoxTable;
-    int BoxCounter = 0;
-    std::array<std::array<int, kMaxChildren + 1>, kMaxBoxes + 1> ChildTable{};
-    // For a construct with more pieces than ChildTable has places (the chemical equation):
-    // the box numbers of all its pieces, in order, recorded by the measure pass.
-    std::array<std::vector<int>, kMaxBoxes + 1> CellTable;
-    int FractionDepth = 0;
-    int ScriptDepth = 0;
-    bool DrawPass = false;
-    // Set when a line asked for more boxes than the table holds: the piece being read stops,
-    // in both passes at the same place, and layout goes on with the next line.
-    bool BoxOverflow = false;
-    // Constructs open around the text being read now.
-    int ConstructDepth = 0;
-    std::uint32_t FillColor = 0;
-    std::uint32_t LineColor = 0;
-
-    // Zoom and page geometry, twips.
+// Set by the caller before LayoutText, and the page geometry (twips) that LayoutText takes
+// from the surface at the start of each call.
+struct PageSetup {
     double ZoomScale = 1.0;
     double PageWidth = 0, PageHeight = 0;
     double MarginLeft = 0, MarginRight = 0, MarginTop = 0, MarginBottom = 0;
-    double LineIndent = 0;
 
-    // Set by the caller before LayoutText: which surface is the screen picture, which one
-    // the printer, whether the system has a printer, whether to draw the margin guides.
+    // Which surface is the screen picture, which one the printer, whether the system has a
+    // printer, whether to draw the margin guides.
     DrawingSurface* ScreenSurface = nullptr;
     DrawingSurface* PrinterSurface = nullptr;
     bool PrinterInstalled = true;
@@ -76,36 +62,8 @@ struct TypesetterState {
     // Called between lines so that a window stays alive during a long layout.
     std::function<void()> YieldToEvents;
 
-    // Pictures hung from the line above (negative height) reach below their own line. The
-    // measure pass of a line notes how far below the line's top its lowest one ends; the
-    // draw pass where each one stands on the page, so that later lines keep clear of it.
-    double LineHang = 0;
-    struct HungPicture {
-        double left = 0, right = 0, bottom = 0;
-    };
-    std::vector<HungPicture> HungPictures;
-
-    // Which drawings of a page stand together: LayoutText counts up before each line it
-    // draws and the interpreter at each column position ("&SP") of the draw pass. The
-    // engine doesn't read it; a checker of finished pages tells items apart by it.
-    int InkGroup = 0;
-
-    // Results of LayoutText.
-    std::int32_t FlowResult = 0;
-    std::int32_t MarkCount = 0;
-    std::array<double, kMaxMarks> MarkTop{};
-    std::array<double, kMaxMarks> MarkBottom{};
-    std::array<bool, kMaxMarks> MarkSelected{};
-    std::array<std::int32_t, kMaxMarks> MarkProblem{};
-
-    // Texts that stand for the locale codes, set once.
-    std::u32string DecimalPointText = U".";
-    std::u32string ListSeparatorText = U",";
-    std::u32string OpenIntervalText = U"(";
-    std::u32string CloseIntervalText = U")";
-    std::u32string FunctionLetterText = U"f";
-    std::u32string DeviationText = U"&sigma";
-    std::u32string PowerOfTenText = U"\u00B710";
+    // The texts that stand for the locale codes and before a power of ten.
+    NumberTexts numberTexts;
 
     // Folders searched for the pictures of the image construct, in this order: the
     // program's pictures, then the per-user folder where generators may leave pictures.
@@ -115,8 +73,77 @@ struct TypesetterState {
     std::function<bool(const std::string& file, double& width, double& height)> LoadPicture;
 };
 
-// Fills the entity table, PiValue, LineColor and OperatorShift. The constructor calls it.
-void InitSymbolTables(TypesetterState& state);
+// Lives through one LayoutText call and carries from line to line.
+struct FlowState {
+    double LineIndent = 0; // set by "&LSAN=", in force for the lines after it
+    std::uint32_t FillColor = 0;
+    std::uint32_t LineColor = 0;
+    // Pictures hung from the line above (negative height) reach below their own line: the
+    // draw pass notes where each one stands on the page, so that later lines keep clear.
+    struct HungPicture {
+        double left = 0, right = 0, bottom = 0;
+    };
+    std::vector<HungPicture> HungPictures;
+};
+
+// The counters of one pass over a line; each pass starts from a fresh set.
+struct PassCounters {
+    int BoxCounter = 0;
+    int FractionDepth = 0;
+    int ScriptDepth = 0;
+    bool DrawPass = false;
+    // Set when a line asked for more boxes than the table holds: the piece being read stops,
+    // in both passes at the same place, and layout goes on with the next line.
+    bool BoxOverflow = false;
+    // Constructs open around the text being read now.
+    int ConstructDepth = 0;
+};
+
+// The boxes of one line: written by its measure pass, read by its draw pass. The driver
+// starts every line with fresh tables.
+struct LineBoxes : PassCounters {
+    std::array<LayoutBox, kMaxBoxes + 1> BoxTable;
+    std::array<std::array<int, kMaxChildren + 1>, kMaxBoxes + 1> ChildTable{};
+    // For a construct with more pieces than ChildTable has places (the chemical equation):
+    // the box numbers of all its pieces, in order, recorded by the measure pass.
+    std::array<std::vector<int>, kMaxBoxes + 1> CellTable;
+    // How far below the line's top its lowest hung picture ends (measure pass).
+    double LineHang = 0;
+};
+
+// What LayoutText leaves for its caller.
+struct LayoutResults {
+    std::int32_t FlowResult = 0;
+    std::int32_t MarkCount = 0;
+    std::array<double, kMaxMarks> MarkTop{};
+    std::array<double, kMaxMarks> MarkBottom{};
+    std::array<bool, kMaxMarks> MarkSelected{};
+    std::array<std::int32_t, kMaxMarks> MarkProblem{};
+    // Which drawings of a page stand together: LayoutText counts up before each line it
+    // draws and the interpreter at each column position ("&SP") of the draw pass. The
+    // engine doesn't read it; a checker of finished pages tells items apart by it.
+    int InkGroup = 0;
+};
+
+// Every table of the typesetter, made by the caller and handed to each call. A test makes
+// a fresh one; nothing of the typesetter lives anywhere else.
+struct TypesetterState : SymbolTables, PageSetup, FlowState, LineBoxes, LayoutResults {
+    TypesetterState();
+};
+
+// Fills the entity table, PiValue and OperatorShift. The constructor calls it.
+void InitSymbolTables(SymbolTables& tables);
+
+// The start of a pass over a line: box 1 is the line's, the depths are 0.
+inline void StartPass(PassCounters& counters, bool drawPass) {
+    counters = PassCounters{.BoxCounter = 1, .DrawPass = drawPass};
+}
+
+// The start of a line: fresh boxes, and the measure pass begins.
+inline void StartLine(LineBoxes& boxes) {
+    boxes = LineBoxes{};
+    StartPass(boxes, false);
+}
 
 // "r;g;b", a decimal number or a colour name (English or Spanish, any case); 0 when unknown.
 std::uint32_t ParseColor(const std::string& text);

@@ -86,11 +86,7 @@ double ModelMarkupWidth(TypesetterState& st, const std::string& markup, double p
     st.PageHeight = 1e12;
     st.MarginLeft = st.MarginRight = st.MarginTop = st.MarginBottom = 0;
     st.LineIndent = 0;
-    st.BoxCounter = 1;
-    st.FractionDepth = 0;
-    st.ScriptDepth = 0;
-    st.BoxOverflow = false;
-    st.DrawPass = false;
+    StartLine(st);
     surface.SetFontSize(points);
     std::u32string head;
     InterpretMarkup(st, ExpandLocaleCodes(st, ToU32(markup)), surface, head);

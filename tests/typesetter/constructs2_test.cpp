@@ -14,20 +14,7 @@
 #include "typesetter/qt_surface.h"
 
 namespace {
-struct Lines : ::testing::Test {
-    TypesetterState st;
-    RecordingSurface s;
-    void SetUp() override { WidePage(st); }
-    LayoutBox Measure(const std::string& text) { return MeasureString(st, s, text); }
-    void Draw(const std::string& text, double x = 1000, double y = 1000) { MeasureAndDraw(st, s, text, x, y); }
-    const RecordingSurface::Text* Find(const std::string& t) const {
-        for (const auto& x : s.texts)
-            if (x.text == t) return &x;
-        return nullptr;
-    }
-    double H() { return s.TextHeight("Hp"); }
-    double T() { return std::max(0.04 * H(), 1.0); }
-};
+struct Lines : ConstructFixture {};
 
 void WriteFile(const std::string& path, const std::string& bytes) {
     std::ofstream f(path, std::ios::binary);

@@ -8,28 +8,8 @@
 #include "typesetter/constructs.h"
 #include "typesetter/layout.h"
 
-namespace {
-struct Constructs : ::testing::Test {
-    TypesetterState st;
-    RecordingSurface s;
-    void SetUp() override { WidePage(st); }
-    LayoutBox Measure(const std::string& text) { return MeasureString(st, s, text); }
-    void Draw(const std::string& text, double x = 1000, double y = 1000) { MeasureAndDraw(st, s, text, x, y); }
-    const RecordingSurface::Text* Find(const std::string& t) const {
-        for (const auto& x : s.texts)
-            if (x.text == t) return &x;
-        return nullptr;
-    }
-    // Horizontal strokes, by y.
-    std::vector<RecordingSurface::Stroke> Horizontal() const {
-        std::vector<RecordingSurface::Stroke> out;
-        for (const auto& k : s.strokes)
-            if (k.y1 == k.y2 && k.x1 != k.x2) out.push_back(k);
-        return out;
-    }
-    double H() { return s.TextHeight("Hp"); }
-};
-} // namespace
+// The fixture is shared with the other construct tests.
+struct Constructs : ConstructFixture {};
 
 TEST_F(Constructs, FractionBoxFollowsTheFormulas) {
     s.SetFontSize(36); // H = 828: no metric is clamped
@@ -351,11 +331,36 @@ TEST_F(Constructs, MeasureAndDrawAgreeOnEveryBox) {
     std::vector<LayoutBox> boxes(st.BoxTable.begin(), st.BoxTable.begin() + measured + 1);
     DrawString(st, s, text, 500, 700);
     EXPECT_EQ(st.BoxCounter, measured);
+    // The draw pass reads the boxes and never writes their metrics.
+    for (int i = 1; i <= measured; ++i) {
+        const LayoutBox& after = st.BoxTable[i];
+        EXPECT_EQ(after.lead, boxes[i].lead) << "box " << i;
+        EXPECT_EQ(after.width, boxes[i].width) << "box " << i;
+        EXPECT_EQ(after.over, boxes[i].over) << "box " << i;
+        EXPECT_EQ(after.axis, boxes[i].axis) << "box " << i;
+        EXPECT_EQ(after.bottom, boxes[i].bottom) << "box " << i;
+        EXPECT_TRUE(after.source == boxes[i].source) << "box " << i;
+    }
+    // Each construct was entered where its parent's pen stood plus its lead: inside the
+    // line's box, never left of where the line began.
+    for (int i = 2; i <= measured; ++i) {
+        if (st.BoxTable[i].drawX == 0 && st.BoxTable[i].drawY == 0) continue;
+        EXPECT_GE(st.BoxTable[i].drawX, 500) << "box " << i;
+        EXPECT_LE(st.BoxTable[i].drawX, 500 + boxes[1].width) << "box " << i;
+    }
     // Every construct noted where the draw pass entered it.
     int drawn = 0;
     for (int i = 2; i <= measured; ++i)
         if (st.BoxTable[i].drawX != 0 || st.BoxTable[i].drawY != 0) ++drawn;
     EXPECT_EQ(drawn, 10); // the ten constructs; the strings of their pieces note nothing
+    // A second measure pass gives every box again, to the last bit.
+    MeasureString(st, s, text);
+    EXPECT_EQ(st.BoxCounter, measured);
+    for (int i = 1; i <= measured; ++i) {
+        EXPECT_EQ(st.BoxTable[i].width, boxes[i].width) << "box " << i;
+        EXPECT_EQ(st.BoxTable[i].over, boxes[i].over) << "box " << i;
+        EXPECT_EQ(st.BoxTable[i].bottom, boxes[i].bottom) << "box " << i;
+    }
 }
 
 TEST_F(Constructs, CutInsideDelimitersIsCountedFromTheBody) {

@@ -8,21 +8,12 @@
 // Matrices as grids, delimiters around every row, and the clearances between the parts of
 // a formula.
 namespace {
-struct Grid : ::testing::Test {
-    TypesetterState st;
-    RecordingSurface s;
-    void SetUp() override { WidePage(st); }
-    LayoutBox Measure(const std::string& text) { return MeasureString(st, s, text); }
-    void Draw(const std::string& text, double x = 1000, double y = 1000) { MeasureAndDraw(st, s, text, x, y); }
+struct Grid : ConstructFixture {
     std::vector<const RecordingSurface::Text*> All(const std::string& t) const {
         std::vector<const RecordingSurface::Text*> out;
         for (const auto& x : s.texts)
             if (x.text == t) out.push_back(&x);
         return out;
-    }
-    const RecordingSurface::Text* Find(const std::string& t) const {
-        const auto all = All(t);
-        return all.empty() ? nullptr : all.front();
     }
     double Width(const RecordingSurface::Text& t) {
         const double size = s.FontSize();

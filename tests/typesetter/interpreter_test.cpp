@@ -5,11 +5,8 @@
 #include "tests/typesetter/typesetter_test_util.h"
 
 namespace {
-struct Fixture : ::testing::Test {
-    TypesetterState st;
-    RecordingSurface s;
-    void SetUp() override { WidePage(st); }
-    LayoutBox Measure(const std::string& text) { return MeasureString(st, s, text); }
+// The shared fixture, drawing from the page's corner.
+struct Fixture : ConstructFixture {
     void Draw(const std::string& text, double x = 0, double y = 0) { MeasureAndDraw(st, s, text, x, y); }
 };
 using Interpreter = Fixture;
@@ -327,8 +324,11 @@ TEST(ParseFillListTest, KindWidthHeight) {
 TEST(ExpandLocaleCodesTest, AllSix) {
     TypesetterState st;
     EXPECT_EQ(ExpandLocaleCodes(st, U"3&.5&,&(a&)&FA&DT"), U"3.5,(a)f&sigma");
-    st.DecimalPointText = std::u32string(1, U',');
+    st.numberTexts.decimalSeparator = ",";
     EXPECT_EQ(ExpandLocaleCodes(st, U"3&.5"), U"3,5");
+    // The texts are UTF-8; the line gets their characters.
+    st.numberTexts.functionName = "\u0192";
+    EXPECT_EQ(ExpandLocaleCodes(st, U"&FA(x)"), U"\u0192(x)");
 }
 
 TEST_F(Interpreter, MeasureAndDrawTakeTheSameBoxNumbers) {

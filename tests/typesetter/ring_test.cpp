@@ -5,13 +5,7 @@
 #include "tests/typesetter/typesetter_test_util.h"
 
 namespace {
-struct Rings : ::testing::Test {
-    TypesetterState st;
-    RecordingSurface s;
-    void SetUp() override { WidePage(st); }
-    void Draw(const std::string& text) { MeasureAndDraw(st, s, text, 1000, 1000); }
-    double H() { return s.TextHeight("Hp"); }
-};
+struct Rings : ConstructFixture {};
 } // namespace
 
 TEST_F(Rings, HexagonWithThreeDoubleEdges) {

@@ -1,5 +1,9 @@
 #pragma once
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "tests/typesetter/recording_surface.h"
 #include "typesetter/markup.h"
@@ -67,3 +71,29 @@ inline void MeasureAndDraw(TypesetterState& st, RecordingSurface& s, const std::
     s.circles.clear();
     DrawString(st, s, text, x, y);
 }
+
+// The fixture of the construct tests: a fresh state on a wide page and a recording surface,
+// with the lookups those tests share.
+struct ConstructFixture : ::testing::Test {
+    TypesetterState st;
+    RecordingSurface s;
+    void SetUp() override { WidePage(st); }
+    LayoutBox Measure(const std::string& text) { return MeasureString(st, s, text); }
+    void Draw(const std::string& text, double x = 1000, double y = 1000) { MeasureAndDraw(st, s, text, x, y); }
+    // The first run of exactly this text, or nullptr.
+    const RecordingSurface::Text* Find(const std::string& t) const {
+        for (const auto& x : s.texts)
+            if (x.text == t) return &x;
+        return nullptr;
+    }
+    // Horizontal strokes, in the order drawn.
+    std::vector<RecordingSurface::Stroke> Horizontal() const {
+        std::vector<RecordingSurface::Stroke> out;
+        for (const auto& k : s.strokes)
+            if (k.y1 == k.y2 && k.x1 != k.x2) out.push_back(k);
+        return out;
+    }
+    double H() { return s.TextHeight("Hp"); }
+    // The thickness of a frame or cross-out line.
+    double T() { return std::max(0.04 * H(), 1.0); }
+};

@@ -21,6 +21,10 @@ void PrintUsage(std::ostream& out) {
            "                          make a collection, e.g. new NRP:12x3:5 --title Practice -o p.col\n"
            "  render FILE.col [--pdf OUT.pdf] [--png DIR]\n"
            "                          print the pages of a collection file\n"
+           "  latex FILE.col -o OUT.tex\n"
+           "                          write the collection as a LaTeX document, figures beside it\n"
+           "  pictures FILE.col DIR [--pages] [--svg] [--png] [--solutions] [--transparent] [--dpi N]\n"
+           "                          write each problem (or page) as an SVG and a PNG picture\n"
            "\n"
            "Options of new: --title TEXT, --solutions none|after|end|page, --sorted, --shuffled,\n"
            "  --first-problem N, --prefix TEXT, --suffix TEXT, --colour #RRGGBB, --page-numbers CODE,\n"
@@ -35,6 +39,8 @@ int main(int argc, char** argv) {
         {"markup", RunMarkupCommand},
         {"new", RunNewCommand},
         {"render", RunRenderCommand},
+        {"latex", RunLatexCommand},
+        {"pictures", RunPicturesCommand},
     };
     if (argc < 2) {
         PrintUsage(std::cerr);

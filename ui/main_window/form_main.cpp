@@ -1,4 +1,5 @@
 #include "ui/main_window/form_main.h"
+#include "ui/main_window/export_actions.h"
 
 #include <QAction>
 #include <QApplication>
@@ -348,6 +349,7 @@ void FormMain::BuildMenus() {
             cmnuEdicion_->addSeparator();
         }
     }
+    new ExportActions(*this, file, zep04_, edit, Item("mnu_Edicion_Paste"));
     cmnuEdicion_->addSeparator();
     AddItem(cmnuEdicion_, "cmnu_Edicion_COLEC_Prop", "Properties of the collection...",
             [this] { Item("mnu_COLEC_Prop")->trigger(); });

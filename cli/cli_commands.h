@@ -1,5 +1,4 @@
 #pragma once
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,15 +18,6 @@ int RunRenderCommand(const CliArguments& args);
 int RunLatexCommand(const CliArguments& args);
 // pictures FILE.col DIR [--pages] [--svg] [--png] [--solutions] [--transparent] [--dpi N]
 int RunPicturesCommand(const CliArguments& args);
-
-// Shared by the commands that open a collection (collection_commands.cpp).
-class QGuiApplication;
-struct ApplicationState;
-struct TypesetterState;
-// The Qt side the typesetter needs: a gui application, offscreen unless told otherwise.
-std::unique_ptr<QGuiApplication> StartGui();
-// Picture folders: "img" beside the program, and the per-user temp folder.
-void SetFolders(ApplicationState& app, TypesetterState& typesetter);
 
 // Output files go through the safe writer: the old file stays whole unless the new one is
 // complete. Each says what failed on standard error and returns false.

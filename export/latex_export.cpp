@@ -265,6 +265,8 @@ private:
     std::string run_;
     std::vector<Segment> segments_;
     int spaces_ = 0; // spaces in a row just written
+    // Scripts set on the last thing written: a second of a kind needs a base of its own.
+    bool subSet_ = false, supSet_ = false;
 };
 
 std::string StylePrefix(const Style& s, bool inMath) {
@@ -281,6 +283,7 @@ std::string StylePrefix(const Style& s, bool inMath) {
 
 void Walker::Flush() {
     if (run_.empty()) return;
+    subSet_ = supSet_ = false;
     std::string content = run_;
     run_.clear();
     if (style_.underline) content = "\\underline{" + content + "}";
@@ -295,6 +298,7 @@ void Walker::EmitMath(const std::string& math) {
     Flush();
     spaces_ = 0;
     if (math.empty()) return;
+    subSet_ = supSet_ = false;
     std::string m = math;
     if (style_.bold) m = "\\boldsymbol{" + m + "}";
     if (math_) {
@@ -388,6 +392,13 @@ std::string Walker::Rows(const u32& piece, const std::string& open, const std::s
         if (r > 0) body += " \\\\ ";
         for (std::size_t k = 0; k < rows[r].size(); ++k) body += (k > 0 ? " & " : "") + rows[r][k];
     }
+    // A system takes two columns at most, a matrix ten: wider ones are arrays in delimiters.
+    if (open == "cases" && columns > 2)
+        return "\\left\\{\\begin{array}{" + std::string(columns, align) + "}" + body + "\\end{array}\\right.";
+    if (!open.empty() && columns > 10)
+        return "\\left" + std::string(open == "bmatrix" ? "[" : open == "vmatrix" ? "|" : "(") + "\\begin{array}{" +
+               std::string(columns, align) + "}" + body + "\\end{array}\\right" +
+               std::string(open == "bmatrix" ? "]" : open == "vmatrix" ? "|" : ")");
     if (!open.empty()) return "\\begin{" + open + "}" + body + "\\end{" + close + "}";
     return "\\begin{array}{" + std::string(columns, align) + "}" + body + "\\end{array}";
 }
@@ -522,7 +533,8 @@ std::string Walker::Picture(const u32& piece) {
     // A picture hung from the line above stands beside its text on the page; here it
     // hangs from the line it is in, its top at the top of the text.
     const std::string graphic = frame + "{\\includegraphics[" + size + "]{" + file + "}}";
-    return mirrored ? "\\vcenter{\\hbox{" + graphic + "}}" : "\\text{" + graphic + "}";
+    return mirrored ? "\\text{\\raisebox{\\dimexpr\\ht\\strutbox-\\height\\relax}{" + graphic + "}}"
+                    : "\\text{" + graphic + "}";
 }
 
 std::string Walker::ConstructMath(const Tag& tag, const u32& piece) {
@@ -553,7 +565,8 @@ std::string Walker::ConstructMath(const Tag& tag, const u32& piece) {
     if (o == U"#INT(") return Integral(piece);
     if (o == U"#IMG(") return Picture(piece);
     if (o == U"#TST(") return Heading(piece);
-    if (o == U"#UDB(" || o.substr(0, 2) == U"#A" || o == U"#BCV(" || o == U"#BCH(") {
+    const bool ring = o.size() > 2 && o[1] == U'A' && o[2] >= U'3' && o[2] <= U'9';
+    if (o == U"#UDB(" || ring || o == U"#BCV(" || o == U"#BCH(") {
         ctx_.leftOut.push_back(ToUtf8(o));
         return Comment("a ring or chain figure has no LaTeX form here: " + CommentText(piece)) +
                "\\text{[" + EscapeLatexText(ToUtf8(o.substr(1, 3))) + "]}";
@@ -572,7 +585,10 @@ void Walker::Script(char32_t c, bool sub) {
     spaces_ = 0;
     if (math_) {
         const std::string& out = segments_.back().latex;
-        Emit(std::string(out.empty() ? "{}" : "") + (sub ? "_{" : "^{") + "\\text{" + prefix + ch + "}}");
+        const bool base = out.empty() || (sub ? subSet_ : supSet_);
+        Emit(std::string(base ? "{}" : "") + (sub ? "_{" : "^{") + "\\text{" + prefix + ch + "}}");
+        if (base) subSet_ = supSet_ = false;
+        (sub ? subSet_ : supSet_) = true;
     } else {
         Emit(std::string(sub ? "\\textsubscript{" : "\\textsuperscript{") + (prefix.empty() ? ch : "{" + prefix + ch + "}") +
              "}");
@@ -779,8 +795,8 @@ std::string Walker::Convert(const u32& text) {
     return all;
 }
 
-// One line of the markup as a paragraph of its own.
-std::string LineToLatex(LatexContext& context, u32 line) {
+// One line of the markup as a paragraph of its own; head (LaTeX) stands at its start.
+std::string LineToLatex(LatexContext& context, u32 line, const std::string& head) {
     std::string indent;
     const std::size_t indentAt = line.find(U"&LSAN=");
     if (indentAt != u32::npos) {
@@ -795,7 +811,7 @@ std::string LineToLatex(LatexContext& context, u32 line) {
     const std::vector<Segment>& segments = walker.Segments();
     std::string body;
     if (segments.size() == 1) {
-        body = whole;
+        body = head + whole;
     } else {
         // Columns: each part starts at its tab stop, a share of the text width from the
         // start of the line, as on the page; the last part may run on and wrap.
@@ -803,7 +819,9 @@ std::string LineToLatex(LatexContext& context, u32 line) {
         for (std::size_t i = 0; i < segments.size(); ++i) {
             const double next = i + 1 < segments.size() ? segments[i + 1].at : at;
             if (i + 1 < segments.size()) {
-                if (!segments[i].latex.empty()) body += "\\makebox[0pt][l]{" + segments[i].latex + "}";
+                // The tab stops count from the start of the line, the head's text included.
+                const std::string part = (i == 0 ? head : std::string()) + segments[i].latex;
+                if (!part.empty()) body += "\\makebox[0pt][l]{" + part + "}";
                 const double step = next - at;
                 if (step != 0) body += "\\hspace{" + Number(step) + "\\linewidth}";
                 at = next;
@@ -834,7 +852,8 @@ std::string InlineMarkupToLatex(LatexContext& context, const std::string& markup
     return walker.Convert(ExpandLocaleCodes(st, ToU32(markup)));
 }
 
-std::string MarkupToLatex(LatexContext& context, const std::string& markup) {
+namespace {
+std::string MarkupWithHead(LatexContext& context, const std::string& markup, const std::string& head) {
     const TypesetterState fallback;
     const TypesetterState& st = context.symbols ? *context.symbols : fallback;
     u32 text = ToU32(markup);
@@ -844,12 +863,16 @@ std::string MarkupToLatex(LatexContext& context, const std::string& markup) {
         const std::size_t found = text.find(U"&LF", pos);
         const u32 line = text.substr(pos, found == u32::npos ? u32::npos : found - pos);
         // A text that ends with its line end has no empty line behind it.
-        if (!(found == u32::npos && line.empty() && pos > 0)) out += LineToLatex(context, ExpandLocaleCodes(st, line));
+        if (!(found == u32::npos && line.empty() && pos > 0))
+            out += LineToLatex(context, ExpandLocaleCodes(st, line), pos == 0 ? head : std::string());
         if (found == u32::npos) break;
         pos = found + 3;
     }
     return out;
 }
+} // namespace
+
+std::string MarkupToLatex(LatexContext& context, const std::string& markup) { return MarkupWithHead(context, markup, ""); }
 
 namespace {
 // The framed number of a problem, in the collection's colour, prefix and suffix.
@@ -860,12 +883,6 @@ std::string LatexNumberBox(const CollectionSettings& settings, long long number)
     return "\\sfnumber{" + RgbText(c) + "}{" + label + "}";
 }
 
-// The first line of a text gets its head in front of it.
-std::string WithHead(const std::string& head, const std::string& paragraphs) {
-    const std::string start = "\\noindent";
-    if (paragraphs.compare(0, start.size(), start) == 0) return start + head + paragraphs.substr(start.size());
-    return "\\noindent" + head + "\\par\n" + paragraphs;
-}
 } // namespace
 
 std::string CollectionToLatex(const ApplicationState& app, LatexContext& context) {
@@ -903,11 +920,11 @@ std::string CollectionToLatex(const ApplicationState& app, LatexContext& context
         const std::string box = LatexNumberBox(s, n);
         doc += "% Problem " + std::to_string(n) + ": " + TrimCopy(r.ModuleName) + " routine " + std::to_string(r.RoutineId) +
                ", code " + ProblemCodeOf(r) + "\n";
-        doc += "\\begin{samepage}\n" + WithHead(box + "~", MarkupToLatex(context, r.Statement)) + "\\end{samepage}\n";
+        doc += "\\begin{samepage}\n" + MarkupWithHead(context, r.Statement, box + "~") + "\\end{samepage}\n";
         if (s.SolutionPosition == 1 && !r.Solution.empty())
-            doc += WithHead("\\textit{" + EscapeLatexText(solutionWord) + "}:~", MarkupToLatex(context, r.Solution));
+            doc += MarkupWithHead(context, r.Solution, "\\textit{" + EscapeLatexText(solutionWord) + "}:~");
         if ((s.SolutionPosition == 2 || s.SolutionPosition == 3) && !r.Solution.empty())
-            stored.push_back(WithHead(box + "~", MarkupToLatex(context, r.Solution)));
+            stored.push_back(MarkupWithHead(context, r.Solution, box + "~"));
         doc += "\\medskip\n";
     }
     if (!stored.empty()) {

@@ -125,7 +125,9 @@ QImage ProblemPng(const ApplicationState& app, int problem, const ProblemPicture
     if (!place.ok) return QImage();
     const double zoom = std::clamp(options.dpi, 24.0, 1200.0) / 96.0;
     const int width = static_cast<int>(std::ceil(kSheetWidth * zoom));
-    const int height = static_cast<int>(std::ceil((place.box.bottom() + 2 * kPad) * zoom));
+    // Below the problem the sheet keeps its bottom margin free, or its last line wouldn't fit.
+    const double margin = 16.0 / 25.4 * 96.0;
+    const int height = static_cast<int>(std::ceil((place.box.bottom() + 2 * kPad + margin + 24) * zoom));
     QImage sheet(width, height, QImage::Format_ARGB32_Premultiplied);
     sheet.fill(options.transparent ? Qt::transparent : Qt::white);
     {

@@ -43,7 +43,7 @@ TEST_F(Latex, AFractionIsADisplayFractionOfItsParts) {
 
 TEST_F(Latex, AFractionInAnExponentIsSmall) {
     const std::string t = Of("#POT(2#PB)(#COC(1#N)(3#COC)#POT)");
-    EXPECT_TRUE(Has(t, "}^{\\frac{\\text{1}}{\\text{3}}}")) << t;
+    EXPECT_TRUE(Has(t, "}^{{\\frac{\\text{1}}{\\text{3}}}}")) << t;
 }
 
 TEST_F(Latex, RootsKeepTheirIndex) {

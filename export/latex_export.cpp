@@ -256,6 +256,7 @@ private:
     void Script(char32_t c, bool sub);
     void PowerOfTen(const u32& text, std::size_t& p);
     void Character(const u32& text, std::size_t p);
+    std::string FilledRectangle(const u32& value);
 
     LatexContext& ctx_;
     bool math_;
@@ -267,6 +268,7 @@ private:
     int spaces_ = 0; // spaces in a row just written
     // Scripts set on the last thing written: a second of a kind needs a base of its own.
     bool subSet_ = false, supSet_ = false;
+    std::uint32_t fill_ = 0; // the colour of filled rectangles
 };
 
 std::string StylePrefix(const Style& s, bool inMath) {
@@ -595,6 +597,22 @@ void Walker::Script(char32_t c, bool sub) {
     }
 }
 
+// "REC,w,h": a box of w by h millimetres in the fill colour from the pen (the top of the
+// line), down for a positive h and left for a negative w; it takes no room in the line.
+std::string Walker::FilledRectangle(const u32& value) {
+    u32 kind;
+    double w = 0, h = 0;
+    ParseFillList(value, kind, w, h);
+    if (kind != U"REC") return "";
+    if (w == 0 || h == 0 || !std::isfinite(w) || !std::isfinite(h) || std::fabs(w) > 400 || std::fabs(h) > 400)
+        return Comment("a coloured band across the page (" + ToUtf8(value) + ") is left out");
+    const std::string raise = h > 0 ? "\\dimexpr\\ht\\strutbox-" + Number(h) + "mm\\relax" : "\\ht\\strutbox";
+    std::string box = "\\makebox[0pt][l]{\\color[RGB]{" + RgbText(fill_) + "}";
+    if (w < 0) box += "\\hspace*{-" + Number(-w) + "mm}";
+    box += "\\rule[" + raise + "]{" + Number(std::fabs(w)) + "mm}{" + Number(std::fabs(h)) + "mm}}";
+    return math_ ? "\\text{" + box + "}" : box;
+}
+
 void Walker::PowerOfTen(const u32& text, std::size_t& p) {
     std::size_t q = p + 2;
     u32 digits;
@@ -720,7 +738,9 @@ std::string Walker::Convert(const u32& text) {
                     });
                 } else if (code == U"&FF") {
                     Flush();
-                    Emit(Comment("a coloured rectangle (" + ToUtf8(value) + ") is left out"));
+                    Emit(FilledRectangle(value));
+                } else if (code == U"&BC") {
+                    fill_ = ParseColor(value);
                 } else if (code == U"&SP") {
                     Flush();
                     spaces_ = 0;
@@ -728,7 +748,7 @@ std::string Walker::Convert(const u32& text) {
                     if (depth_ == 0) segments_.push_back({std::isfinite(at) ? at : 0, ""});
                     else Emit(math_ ? "\\quad " : "\\quad{}");
                 }
-                // "&BC" and "&LC" colour rectangles and strokes only.
+                // "&LC" colours the strokes of the marks only.
             } else {
                 int entity = 0;
                 if (ctx_.symbols)

@@ -140,7 +140,9 @@ TEST_F(Latex, WhatHasNoFormIsAVisibleComment) {
     EXPECT_EQ(context.leftOut[0], "#A6V(");
     EXPECT_TRUE(Balanced(t));
     const std::string box = Of("&BC=Amarillo:&FF=REC,0,10:text");
-    EXPECT_TRUE(Has(box, "% a coloured rectangle (REC,0,10) is left out")) << box;
+    EXPECT_TRUE(Has(box, "% a coloured band across the page (REC,0,10) is left out")) << box;
+    const std::string bar = Of("&BC=0;0;255:&FF=REC,-3,-12:x");
+    EXPECT_TRUE(Has(bar, "\\makebox[0pt][l]{\\color[RGB]{0,0,255}\\hspace*{-3mm}\\rule[\\ht\\strutbox]{3mm}{12mm}}x")) << bar;
 }
 
 TEST_F(Latex, DamagedMarkupStaysBalanced) {

@@ -111,6 +111,11 @@ ExportActions::ExportActions(FormMain& window, QMenu* file, QAction* fileBefore,
     file->insertMenu(fileBefore, exportMenu);
     connect(pictures, &QAction::triggered, this, [this] { ExportPicturesCommand(); });
     connect(latex, &QAction::triggered, this, [this] { ExportLatexCommand(); });
+    // Offered when there is a collection to export, as printing is.
+    connect(file, &QMenu::aboutToShow, exportMenu, [this, exportMenu] {
+        const ApplicationState& app = window_.App();
+        exportMenu->menuAction()->setEnabled(app.ProblemCount() > 0 && !app.BusyFlag);
+    });
 
     auto* copy = new QAction("Copy as P&icture", edit);
     copy->setObjectName("mnu_Edicion_CopyPicture");

@@ -16,6 +16,10 @@ int RunNewCommand(const CliArguments& args);
 int RunRenderCommand(const CliArguments& args);
 // versions FILE.col N [--pdf OUT] [--col DIR] [--key-only|--sheets-only] [page options]
 int RunVersionsCommand(const CliArguments& args);
+// latex FILE.col -o OUT.tex
+int RunLatexCommand(const CliArguments& args);
+// pictures FILE.col DIR [--pages] [--svg] [--png] [--solutions] [--transparent] [--dpi N]
+int RunPicturesCommand(const CliArguments& args);
 
 // Output files go through the safe writer: the old file stays whole unless the new one is
 // complete. Each says what failed on standard error and returns false.

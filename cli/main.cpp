@@ -23,6 +23,10 @@ void PrintUsage(std::ostream& out) {
            "                          print the pages of a collection file\n"
            "  versions FILE.col N [--pdf OUT] [--col DIR] [--key-only | --sheets-only]\n"
            "                          N versions of a collection with their answer keys\n"
+           "  latex FILE.col -o OUT.tex\n"
+           "                          write the collection as a LaTeX document, figures beside it\n"
+           "  pictures FILE.col DIR [--pages] [--svg] [--png] [--solutions] [--transparent] [--dpi N]\n"
+           "                          write each problem (or page) as an SVG and a PNG picture\n"
            "\n"
            "Options of new: --title TEXT, --solutions none|after|end|page, --sorted, --shuffled,\n"
            "  --first-problem N, --prefix TEXT, --suffix TEXT, --colour #RRGGBB, --page-numbers CODE,\n"
@@ -39,6 +43,8 @@ int main(int argc, char** argv) {
         {"new", RunNewCommand},
         {"render", RunRenderCommand},
         {"versions", RunVersionsCommand},
+        {"latex", RunLatexCommand},
+        {"pictures", RunPicturesCommand},
     };
     if (argc < 2) {
         PrintUsage(std::cerr);

@@ -4,7 +4,8 @@ set -euo pipefail
 
 PACKAGES=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libgtest-dev
           libbenchmark-dev fonts-liberation2 fonts-dejavu-core fonts-stix xvfb xauth poppler-utils
-          desktop-file-utils appstream-util shared-mime-info)
+          desktop-file-utils appstream-util shared-mime-info qt6-svg-dev
+          texlive-latex-base texlive-latex-recommended)
 
 missing=()
 for p in "${PACKAGES[@]}"; do

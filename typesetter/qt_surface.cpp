@@ -48,7 +48,17 @@ QtSurface::QtSurface(QPagedPaintDevice& device) : reference_(1, 1, QImage::Forma
     twipsPerPixelY_ = 1440.0 / device.logicalDpiY();
     width_ = device.width() * twipsPerPixelX_;
     height_ = device.height() * twipsPerPixelY_;
+    paged_ = true;
     Begin(device);
+}
+
+QtSurface::QtSurface(QPaintDevice& device, int widthPixels, int heightPixels) : reference_(1, 1, QImage::Format_ARGB32) {
+    width_ = widthPixels;
+    height_ = heightPixels;
+    twipsPerPixelX_ = twipsPerPixelY_ = 15;
+    Begin(device);
+    // Begin scales by the twips per pixel of the device's own resolution: here 15 whatever it is.
+    deviceDpi_ = 96;
 }
 
 void QtSurface::Begin(QPaintDevice& device) {
@@ -75,7 +85,7 @@ void QtSurface::End() {
 
 bool QtSurface::NewPage() {
     Flush();
-    if (screenPicture_) return false;
+    if (screenPicture_ || !paged_) return false;
     return static_cast<QPagedPaintDevice*>(device_)->newPage();
 }
 

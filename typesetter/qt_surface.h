@@ -62,6 +62,10 @@ public:
     explicit QtSurface(QImage& image);
     // A printer or PDF page: Width and Height in twips, TwipsPerPixel from the resolution.
     explicit QtSurface(QPagedPaintDevice& device);
+    // A drawing of one page on any other device (an SVG file): laid out as the screen
+    // picture is, Width and Height in pixels of 15 twips, but strokes are not snapped to
+    // pixels and text is drawn in runs, as on paper.
+    QtSurface(QPaintDevice& device, int widthPixels, int heightPixels);
     ~QtSurface() override;
 
     QPainter& Painter() { return painter_; }
@@ -159,6 +163,7 @@ private:
     QPaintDevice* device_ = nullptr;
     std::uint32_t penColor_ = 0xFFFFFFFF; // the painter's pen for text, to set it only on a change
     bool screenPicture_ = false; // straight strokes are snapped to whole pixels there
+    bool paged_ = false;         // a printer or PDF: it has a next sheet
     QImage reference_; // 1440 dpi: metrics come out in twips
     double deviceDpi_ = 96;
     double width_ = 0, height_ = 0;

@@ -14,6 +14,7 @@
 
 #include "core/collection.h"
 #include "core/editing.h"
+#include "ui/main_window/export_actions.h"
 #include "ui/main_window/form_splash.h"
 #include "ui/main_window/page_setup_dialog.h"
 #include "ui/main_window/versions_dialog.h"
@@ -73,6 +74,7 @@ QList<QKeySequence> StandardKeys(QKeySequence::StandardKey key, QKeyCombination 
 void FormMain::BuildMenus() {
     BuildFileMenu();
     BuildEditMenu();
+    new ExportActions(*this, menus_["mnu_File"], zep04_, menus_["mnu_Edicion"], Item("mnu_Edicion_Paste"));
     BuildCollectionMenu();
     BuildViewMenu();
     BuildHelpMenu();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/ports.h"
+#include "core/problem_record.h"
 #include "core/safe_write.h"
 #include "generators/hub.h"
 
@@ -31,21 +32,6 @@ struct NumberTexts {
     std::string closeBracket = ")";
     std::string functionName = "f";
     std::string deviationMarkup = "&sigma";
-};
-
-// One problem: everything needed to make it again, and its finished texts.
-struct ProblemRecord {
-    std::string ModuleName;
-    int RoutineId = 0;
-    int VariantNumber = 0;
-    int GroupSize = 0;
-    int GroupIndex = 0;
-    int ItemCount = 0;
-    int Seed = 0;
-    std::string Statement;
-    std::string Solution;
-
-    bool operator==(const ProblemRecord&) const = default;
 };
 
 struct CollectionSettings {
@@ -203,7 +189,3 @@ std::string SolutionsWord(const std::string& language);
 
 // Appends a module name that is not known yet (at most 999 names).
 void AddModuleName(ApplicationState& app, const std::string& name);
-
-// Both halves: true when text starts with the clipboard form's head.
-inline constexpr const char* kClipboardHead = "GENPROB:NPROB=001:";
-bool IsProblemClipboardText(const std::string& text);

@@ -453,6 +453,7 @@ bool OpenFile(ApplicationState& app) {
     ColFileContents contents = ParseColFile(file);
     file.clear();
     if (contents.error != ColFileError::None) {
+        // Nothing of a damaged file is taken, not even the settings it had before the damage.
         RefuseDamagedFile(app, contents.error);
         return false;
     }

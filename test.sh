@@ -17,6 +17,8 @@ for arg in "$@"; do
 done
 ./scripts/setup.sh
 export QT_QPA_PLATFORM=offscreen
+# No two units of a checked folder include each other, however indirectly.
+./scripts/check_include_cycles.py
 if [ "$sanitize" -eq 0 ]; then
   ./scripts/build.sh build
   # The user's manual is no part of the program's build; its own check fails on a broken

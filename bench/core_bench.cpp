@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "core/col_file.h"
+#include "core/editing.h"
 #include "core/collection.h"
 #include "core/composition.h"
 #include "core/page_render.h"

@@ -21,6 +21,7 @@
 #include <vector>
 
 #include "core/col_file.h"
+#include "core/editing.h"
 #include "core/collection.h"
 #include "core/composition.h"
 #include "core/page_render.h"

@@ -16,10 +16,12 @@
 #include "cli/cli_commands.h"
 #include "core/col_file.h"
 #include "core/collection.h"
-#include "core/composition.h"
 #include "core/answer_key.h"
+#include "core/composition.h"
+#include "core/editing.h"
 #include "core/page_render.h"
 #include "core/versions.h"
+#include "generators/catalogue.h"
 #include "typesetter/qt_surface.h"
 
 namespace fs = std::filesystem;
@@ -339,11 +341,13 @@ bool WriteVersions(ApplicationState& app, const VersionOutput& o, const char* co
         LoadCollection(doc, versions[static_cast<std::size_t>(v)]);
         if (!o.colFolder.empty()) {
             doc.CurrentFileName = VersionColFile(o, v);
-            if (!SaveFile(doc)) {
-                std::cerr << "sumforge-cli " << command << ": " << static_cast<QuietWindow*>(doc.window)->lastMessage
-                          << "\n";
+            std::string bytes;
+            std::string error;
+            if (!BuildFileBytes(doc, bytes, error)) {
+                std::cerr << "sumforge-cli " << command << ": " << error << "\n";
                 return false;
             }
+            if (!SaveOutputFile(doc.CurrentFileName, QByteArray::fromStdString(bytes), command)) return false;
             std::cout << doc.CurrentFileName << ": " << doc.ProblemCount() << " problems\n";
         }
         if (o.pdfBase.empty()) continue;
@@ -359,6 +363,33 @@ bool WriteVersions(ApplicationState& app, const VersionOutput& o, const char* co
         }
     }
     return true;
+}
+
+// A generator of the catalogue as the new command asks for it.
+struct Generator {
+    std::string module;
+    int routine = 0;
+    int itemsMax = 0;
+    int amount = 0;
+    int itemsPerProblem = 0;
+};
+
+// The exercise generator of the subject's catalogue that a choice names (a topic's header
+// line is no generator).
+bool FindGenerator(const std::vector<std::string>& catalogue, const Choice& choice, Generator& found) {
+    bool any = false;
+    for (const std::string& line : catalogue) {
+        const CatalogueEntry e = ReadCatalogueEntry(line);
+        if (Upper(TrimBlanks(e.Subject)) != "MATHEMATICS") continue;
+        if (e.Kind.size() != 1 || e.Kind[0] < '1' || e.Kind[0] > '4') continue;
+        if (TrimBlanks(e.moduleName) != choice.module) continue;
+        if (static_cast<int>(LeadingNumberSkippingBlanks(e.RoutineId)) != choice.routine) continue;
+        found.module = TrimBlanks(e.moduleName);
+        found.routine = choice.routine;
+        found.itemsMax = static_cast<int>(LeadingNumberSkippingBlanks(e.MaxAmount));
+        any = true;
+    }
+    return any;
 }
 
 int ParseNewOptions(const CliArguments& args, NewOptions& o, VersionOutput& versions) {
@@ -536,58 +567,53 @@ int RunNewCommand(const CliArguments& args) {
     app.Page = o.page;
     Pagination pagination(app);
 
-    // The tree of the subject, marked with the choices, as the wizard leaves it.
-    LoadTOLISTBOX_BUILT_CODE(app, "Mathematics", true, true, true, true);
+    // Each choice is a group of records of its generator, in the order of the choices.
+    app.hub.ReadCatalogue();
+    std::vector<Generator> chosen;
     int total = 0;
     for (const Choice& choice : o.choices) {
-        TopicNode* found = nullptr;
-        for (auto& node : app.TopicTree)
-            if (!node.isFolder && TrimBlanks(node.module) == choice.module && node.routine == choice.routine)
-                found = &node;
-        if (!found) {
+        Generator generator;
+        if (!FindGenerator(app.hub.CatalogueList(), choice, generator)) {
             std::cerr << "sumforge-cli new: no generator " << choice.module << " " << choice.routine << " ('"
                       << choice.word << "'); see 'sumforge-cli catalogue'\n";
             return 1;
         }
-        if (found->selected) {
-            std::cerr << "sumforge-cli new: '" << choice.word << "' names a generator already chosen\n";
-            return kUsageError;
-        }
-        const int items = choice.items < 0 ? std::min(found->itemsMax, 10) : choice.items;
-        if (found->itemsMax > 0 && items > found->itemsMax) {
+        for (const Generator& before : chosen)
+            if (before.module == generator.module && before.routine == generator.routine) {
+                std::cerr << "sumforge-cli new: '" << choice.word << "' names a generator already chosen\n";
+                return kUsageError;
+            }
+        const int items = choice.items < 0 ? std::min(generator.itemsMax, 10) : choice.items;
+        if (generator.itemsMax > 0 && items > generator.itemsMax) {
             std::cerr << "sumforge-cli new: '" << choice.word << "' asks for " << items
-                      << " items; this generator makes at most " << found->itemsMax << "\n";
+                      << " items; this generator makes at most " << generator.itemsMax << "\n";
             return kUsageError;
         }
-        found->selected = true;
-        found->amount = choice.amount;
-        found->itemsPerProblem = found->itemsMax > 0 ? items : 0;
+        generator.amount = choice.amount;
+        generator.itemsPerProblem = generator.itemsMax > 0 ? items : 0;
+        chosen.push_back(generator);
         total += choice.amount;
     }
     if (total > kMaxProblems) {
         std::cerr << "sumforge-cli new: Too much problems. (Max: 500)\n";
         return kUsageError;
     }
-    // The order of the choices is the order of the collection when it is sorted.
-    std::vector<TopicNode> ordered = {app.TopicTree.front()};
-    for (const Choice& choice : o.choices)
-        for (const auto& node : app.TopicTree)
-            if (node.selected && TrimBlanks(node.module) == choice.module && node.routine == choice.routine)
-                ordered.push_back(node);
-    app.TopicTree = ordered;
 
     app.Settings = o.settings;
+    app.Settings.ProblemCount = 0;
     app.Reseed();
     app.ModuleNames.clear();
-    Arbol_to_Var(app);
+    for (const Generator& g : chosen) AppendProblemGroup(app, g.module, g.routine, g.amount, g.itemsPerProblem);
     CrearColeccion(app, 1);
 
     if (!o.colFile.empty()) {
-        app.CurrentFileName = o.colFile;
-        if (!SaveFile(app)) {
-            std::cerr << "sumforge-cli new: " << static_cast<QuietWindow*>(app.window)->lastMessage << "\n";
+        std::string bytes;
+        std::string error;
+        if (!BuildFileBytes(app, bytes, error)) {
+            std::cerr << "sumforge-cli new: " << error << "\n";
             return 1;
         }
+        if (!SaveOutputFile(o.colFile, QByteArray::fromStdString(bytes), "new")) return 1;
     }
     std::cout << app.ProblemCount() << " problems, " << app.PageCount << " pages\n";
     if (o.versions > 0) return WriteVersions(app, versions, "new") ? 0 : 1;

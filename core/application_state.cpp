@@ -62,8 +62,6 @@ void AddModuleName(ApplicationState& app, const std::string& name) {
     if (static_cast<int>(app.ModuleNames.size()) < kMaxModuleNames) app.ModuleNames.push_back(name);
 }
 
-bool IsProblemClipboardText(const std::string& text) { return text.rfind(kClipboardHead, 0) == 0; }
-
 void NoColeccion(ApplicationState& app) {
     app.window->SetWaitCursor(false);
     app.window->SetBusy(false);

@@ -7,6 +7,7 @@
 
 #include "core/page_setup.h"
 #include "core/ports.h"
+#include "core/problem_record.h"
 #include "core/safe_write.h"
 #include "generators/hub.h"
 #include "mathservices/number_texts.h"
@@ -23,21 +24,6 @@ inline constexpr int kMaxModuleNames = 999;
 inline constexpr int kMarkCapacity = 500;
 inline constexpr int kMaxPages = 500;
 inline constexpr int kToolCount = 12;
-
-// One problem: everything needed to make it again, and its finished texts.
-struct ProblemRecord {
-    std::string ModuleName;
-    int RoutineId = 0;
-    int VariantNumber = 0;
-    int GroupSize = 0;
-    int GroupIndex = 0;
-    int ItemCount = 0;
-    int Seed = 0;
-    std::string Statement;
-    std::string Solution;
-
-    bool operator==(const ProblemRecord&) const = default;
-};
 
 struct CollectionSettings {
     std::int32_t FirstPageNumber = 1;
@@ -196,7 +182,3 @@ std::string SolutionsWord(const std::string& language);
 
 // Appends a module name that is not known yet (at most 999 names).
 void AddModuleName(ApplicationState& app, const std::string& name);
-
-// Both halves: true when text starts with the clipboard form's head.
-inline constexpr const char* kClipboardHead = "GENPROB:NPROB=001:";
-bool IsProblemClipboardText(const std::string& text);

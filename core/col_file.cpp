@@ -11,12 +11,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "core/collection.h"
 #include "core/composition.h"
-#include "typesetter/picture_files.h"
-#include "core/editing.h"
+#include "core/problem_record.h"
 #include "core/safe_write.h"
 #include "mathservices/utf8_text.h"
+#include "typesetter/picture_files.h"
 
 namespace fs = std::filesystem;
 
@@ -78,18 +77,6 @@ std::string FindImage(const ApplicationState& app, const std::string& name) {
     return "";
 }
 
-// The text between the opening and the closing tag at the head of the rest; the rest then
-// continues behind the closing tag. False when the closing tag is missing.
-bool TakeElement(std::string& rest, const std::string& openTag, const std::string& closeTag, std::string& value) {
-    const auto close = rest.find(closeTag);
-    if (close == std::string::npos) return false;
-    value = close > openTag.size() ? rest.substr(openTag.size(), close - openTag.size()) : "";
-    rest.erase(0, close + closeTag.size());
-    return true;
-}
-
-std::string TrimFileText(const std::string& text) { return TrimBlanks(text); }
-
 // A picture name from a file as it may be written into the temp folder: printable
 // characters only, no folder, and the extension of a picture.
 bool IsPictureName(const std::string& name) {
@@ -125,19 +112,18 @@ void StorePicture(const ApplicationState& app, const std::string& name, const st
     WriteFileSafely(path, bytes, app.fileWriter);
 }
 
-enum class OpenResult { Read, CannotOpen, Bad };
+} // namespace
 
-// The bytes of a collection file. Only a regular file of at most kMaxFileBytes is read: a
-// pipe would wait for ever and a device could feed bytes without end. Opened without
-// blocking, so that a pipe is refused rather than waited on. errno tells why on CannotOpen.
-OpenResult ReadCollectionBytes(const std::string& path, std::string& bytes) {
+// A pipe would wait for ever and a device could feed bytes without end: opened without
+// blocking, and read only when it is a regular file of a collection's size.
+FileReadResult ReadCollectionBytes(const std::string& path, std::string& bytes) {
     const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (fd < 0) return OpenResult::CannotOpen;
+    if (fd < 0) return FileReadResult::CannotOpen;
     struct stat st {};
     if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size < 0 ||
         static_cast<unsigned long long>(st.st_size) > kMaxFileBytes) {
         ::close(fd);
-        return OpenResult::Bad;
+        return FileReadResult::Bad;
     }
     bytes.clear();
     bytes.resize(static_cast<std::size_t>(st.st_size));
@@ -150,16 +136,15 @@ OpenResult ReadCollectionBytes(const std::string& path, std::string& bytes) {
             const int e = errno;
             ::close(fd);
             errno = e;
-            return OpenResult::CannotOpen;
+            return FileReadResult::CannotOpen;
         }
         if (n == 0) break;
         done += static_cast<std::size_t>(n);
     }
     ::close(fd);
     bytes.resize(done);
-    return OpenResult::Read;
+    return FileReadResult::Read;
 }
-} // namespace
 
 namespace {
 // The names of the file's own tags, each followed by "(" or ")" in a file; and "#PRO"
@@ -270,29 +255,6 @@ std::string Windows1252ToUtf8(const std::string& bytes) {
             AppendUtf8(out, b);
     }
     return out;
-}
-
-std::string ProblemLine(const ProblemRecord& record, long long shownNumber) {
-    return ProblemIdentity(record) + ZeroFilled(shownNumber, 4) + "\r\n";
-}
-
-std::string ProblemClipboardText(const ProblemRecord& record) {
-    return std::string(kClipboardHead) + ProblemIdentity(record) + "#ENU(" + record.Statement + "#ENU)" + "#SOL(" +
-           record.Solution + "#SOL)";
-}
-
-bool SplitProblemElement(const std::string& element, std::string& statement, std::string& solution) {
-    const auto sol = element.find("#SOL(");
-    // Without "#SOL(" the old reading took the solution from the fifth character on.
-    const std::size_t solutionStart = sol == std::string::npos ? 4 : sol + 5;
-    if (solutionStart > element.size()) return false;
-    std::string tail = element.substr(solutionStart);
-    if (tail.size() < 5) return false;
-    solution = tail.substr(0, tail.size() - 5);
-    const std::size_t headLength = element.size() - solution.size();
-    if (headLength < 15) return false;
-    statement = headLength - 15 > 5 ? element.substr(5, headLength - 15 - 5) : "";
-    return true;
 }
 
 void ReadClipboardProblem(const std::string& text, ProblemRecord& record) {
@@ -422,177 +384,144 @@ bool SaveFile(ApplicationState& app) {
     return true;
 }
 
-void AvisoError(ApplicationState& app) {
-    app.window->SetWaitCursor(false);
-    app.window->ShowMessage("Bad file.", "Error", MessageIcon::Exclamation);
-    NoColeccion(app);
+namespace {
+// The text between the opening and the closing tag at the head of the rest; the rest then
+// continues behind the closing tag. False when the closing tag is missing.
+bool TakeElement(std::string& rest, const std::string& openTag, const std::string& closeTag, std::string& value) {
+    const auto close = rest.find(closeTag);
+    if (close == std::string::npos) return false;
+    value = close > openTag.size() ? rest.substr(openTag.size(), close - openTag.size()) : "";
+    rest.erase(0, close + closeTag.size());
+    return true;
 }
 
-bool OpenFile(ApplicationState& app) {
-    app.window->SetBusy(true);
-    const std::string name = app.CurrentFileName;
-    if (name.size() < 4 || Upper(name.substr(name.size() - 4)) != ".COL") {
-        // Refused, but said so, and with the menus and toolbar given back: a silent refusal
-        // left them disabled and the collection on screen could no longer be saved.
-        app.CurrentFileName.clear();
-        app.window->SetBusy(false);
-        app.window->SetWaitCursor(false);
-        app.window->ShowMessage("Cannot open " + fs::path(name).filename().string() +
-                                    ": the name of a problem collection ends in \".col\".",
-                                "Error", MessageIcon::Exclamation);
-        return false;
-    }
-    app.window->SetWaitCursor(true);
-    std::string file;
-    const OpenResult opened = ReadCollectionBytes(name, file);
-    if (opened == OpenResult::CannotOpen) {
-        // The system's reason says more than "Bad file." about a file that isn't there.
-        const int e = errno;
-        app.window->SetWaitCursor(false);
-        app.window->ShowMessage("Cannot open " + name + ": " + std::strerror(e), "Error", MessageIcon::Exclamation);
-        NoColeccion(app);
-        return false;
-    }
-    if (opened == OpenResult::Bad) {
-        AvisoError(app);
-        return false;
-    }
-    const auto headEnd = file.find("#CABECERA)");
-    if (headEnd == std::string::npos) {
-        AvisoError(app);
-        return false;
-    }
-
-    // The image directory and the image data, by the pointer of the head.
+// The image directory and the image data of a file, found through a directory pointer.
+struct PictureArea {
     long long dir = 0;
     std::string directory;
     std::string images;
-    auto readDirectory = [&](const std::string& pointer) -> bool {
-        dir = static_cast<long long>(std::clamp(LeadingNumber(pointer), -1.0, 1e15));
-        if (dir == 0) return true;
-        // A pointer outside the file, or data before the directory, is a damaged file.
-        if (dir < 1 || static_cast<std::size_t>(dir) > file.size()) return false;
-        const std::size_t dirIndex = static_cast<std::size_t>(dir - 1);
-        const long long data = static_cast<long long>(
-            LeadingNumber(dirIndex + 32 < file.size() ? file.substr(dirIndex + 32, 8) : std::string()));
-        if (data < dir || static_cast<std::size_t>(data) > file.size() + 1) return false;
-        directory = file.substr(dirIndex, static_cast<std::size_t>(data - dir));
-        images = file.substr(static_cast<std::size_t>(data - 1));
-        return true;
-    };
-    const auto binDir = file.find("#BINDIR(");
-    if (binDir != std::string::npos && !readDirectory(file.substr(binDir + 8, 8))) {
-        AvisoError(app);
-        return false;
-    }
+};
 
-    std::string head = headEnd > 10 ? file.substr(10, headEnd - 10) : "";
-    std::string rest = TrimFileText(file.substr(headEnd + 10));
+// Reads the area a pointer names. A pointer outside the file, or data before the
+// directory, is a damaged file (false).
+bool ReadPictureArea(const std::string& file, const std::string& pointer, PictureArea& area) {
+    area = PictureArea{};
+    area.dir = static_cast<long long>(std::clamp(LeadingNumberSkippingBlanks(pointer), -1.0, 1e15));
+    if (area.dir == 0) return true;
+    if (area.dir < 1 || static_cast<std::size_t>(area.dir) > file.size()) return false;
+    const std::size_t dirIndex = static_cast<std::size_t>(area.dir - 1);
+    const long long data = static_cast<long long>(
+        LeadingNumberSkippingBlanks(dirIndex + 32 < file.size() ? file.substr(dirIndex + 32, 8) : std::string()));
+    if (data < area.dir || static_cast<std::size_t>(data) > file.size() + 1) return false;
+    area.directory = file.substr(dirIndex, static_cast<std::size_t>(data - area.dir));
+    area.images = file.substr(static_cast<std::size_t>(data - 1));
+    return true;
+}
 
-    struct Element {
-        const char* open;
-        const char* close;
-    };
-    static constexpr Element kElements[] = {
-        {"#PROPARAM(", "#PROPARAM)"}, {"#TITULO(", "#TITULO)"}, {"#POSNUMPAG(", "#POSNUMPAG)"},
-        {"#COLRESPRO(", "#COLRESPRO)"}, {"#ORDENA(", "#ORDENA)"}, {"#PAGINI(", "#PAGINI)"},
-        {"#POSSOL(", "#POSSOL)"},     {"#PROPRE(", "#PROPRE)"}, {"#PROSUF(", "#PROSUF)"},
-        {"#PROINI(", "#PROINI)"},
-    };
-    std::string values[10];
-    for (int k = 0; k < 10; ++k) {
-        if (!TakeElement(head, kElements[k].open, kElements[k].close, values[k])) {
-            AvisoError(app);
-            return false;
-        }
-    }
-    std::string pointer;
-    // Files of older versions have no directory pointer at all.
-    if (TakeElement(head, "#BINDIR(", "#BINDIR)", pointer)) {
-        directory.clear();
-        images.clear();
-        if (!readDirectory(pointer)) {
-            AvisoError(app);
-            return false;
-        }
-    }
+struct HeadElement {
+    const char* open;
+    const char* close;
+};
+constexpr HeadElement kHeadElements[] = {
+    {"#PROPARAM(", "#PROPARAM)"},   {"#TITULO(", "#TITULO)"}, {"#POSNUMPAG(", "#POSNUMPAG)"},
+    {"#COLRESPRO(", "#COLRESPRO)"}, {"#ORDENA(", "#ORDENA)"}, {"#PAGINI(", "#PAGINI)"},
+    {"#POSSOL(", "#POSSOL)"},       {"#PROPRE(", "#PROPRE)"}, {"#PROSUF(", "#PROSUF)"},
+    {"#PROINI(", "#PROINI)"},
+};
+constexpr int kHeadElementCount = 10;
 
-    CollectionSettings& s = app.Settings;
-    // A value too large for the field is held at the field's end rather than converted out
-    // of range.
-    auto number = [](const std::string& value) {
-        const double v = LeadingNumber(value);
-        return static_cast<std::int32_t>(std::clamp(v, -2147483648.0, 2147483647.0));
-    };
-    s.Title = Windows1252ToUtf8(values[1]);
-    s.PagePositionCode = number(values[2]);
-    s.NumberColour = number(values[3]);
-    s.Sorted = LeadingNumber(values[4]) == 1;
-    s.FirstPageNumber = number(values[5]);
-    s.SolutionPosition = number(values[6]);
-    s.NumberPrefix = Windows1252ToUtf8(values[7]);
-    s.NumberSuffix = Windows1252ToUtf8(values[8]);
-    s.FirstProblemNumber = number(values[9]);
+// A number of the head; a value too large for the field is held at the field's end
+// rather than converted out of range.
+std::int32_t HeadNumber(const std::string& value) {
+    const double v = LeadingNumberSkippingBlanks(value);
+    return static_cast<std::int32_t>(std::clamp(v, -2147483648.0, 2147483647.0));
+}
 
-    REG_To_Var(app, Windows1252ToUtf8(values[0]));
-    if (app.ProblemCount() == 0) {
-        app.window->SetWaitCursor(false);
-        app.window->ShowMessage("Error: Bad file.", "", MessageIcon::None);
-        NoColeccion(app);
-        return false;
-    }
+ColFileContents Damaged(ColFileError error) {
+    ColFileContents contents;
+    contents.error = error;
+    return contents;
+}
 
-    if (values[1].size() > kMaxTitleBytes || values[7].size() > kMaxAffixBytes || values[8].size() > kMaxAffixBytes) {
-        AvisoError(app);
-        return false;
-    }
-
-    const int n = app.ProblemCount();
+// The statements and solutions of the problem elements behind the head, in order.
+bool ReadProblemElements(const std::string& rest, std::vector<ProblemRecord>& records) {
     std::size_t from = 0;  // where the rest of the file begins
-    for (int i = 1; i <= n; ++i) {
-        const std::string close = "#PRO" + BlockMark(i) + ")";
+    for (std::size_t i = 1; i <= records.size(); ++i) {
+        const std::string close = "#PRO" + BlockMark(static_cast<int>(i)) + ")";
         const auto at = rest.find(close, from);
         std::string statement;
         std::string solution;
         if (at == std::string::npos || at < from + 8 ||
             !SplitProblemElement(rest.substr(from + 8, at - from - 8), statement, solution) ||
-            statement.size() > kMaxProblemTextBytes || solution.size() > kMaxProblemTextBytes) {
-            AvisoError(app);
+            statement.size() > kMaxProblemTextBytes || solution.size() > kMaxProblemTextBytes)
             return false;
-        }
-        app.Problems[i].Statement = Windows1252ToUtf8(statement);
-        app.Problems[i].Solution = Windows1252ToUtf8(solution);
+        records[i - 1].Statement = Windows1252ToUtf8(statement);
+        records[i - 1].Solution = Windows1252ToUtf8(solution);
         from = at + close.size();
     }
-
-    if (dir != 0) {
-        // More pictures than any collection can name is a damaged file, not work to do.
-        if (directory.size() / 48 > kMaxPictures) {
-            AvisoError(app);
-            return false;
-        }
-        std::size_t offset = 0;
-        std::vector<std::pair<std::string, std::string>> pictures;
-        for (std::size_t e = 0; e + 48 <= directory.size(); e += 48) {
-            const std::string imageName = Windows1252ToUtf8(TrimBlanks(directory.substr(e, 32)));
-            const double length = LeadingNumber(directory.substr(e + 40, 8));
-            if (length < 0 || offset + static_cast<std::size_t>(length) > images.size()) {
-                AvisoError(app);
-                return false;
-            }
-            pictures.emplace_back(imageName, images.substr(offset, static_cast<std::size_t>(length)));
-            offset += static_cast<std::size_t>(length);
-        }
-        for (const auto& [imageName, bytes] : pictures) StorePicture(app, imageName, bytes);
-    }
-
-    ActualizaMenusCheckeados(app);
-    ComposeDocument(app, true, 1);
-    app.Modified = false;
-    app.window->SetCaption(fs::path(name).filename().string() + "  -  " + app.ApplicationTitle);
-    app.window->AddRecentFile(name);
-    HayColeccion(app);
-    SetUNDO(app, "");
-    app.menus->ActualizarBotones();
     return true;
+}
+
+// The pictures of the directory, each with its bytes; false when an entry runs past the
+// data or the directory names more pictures than any collection can.
+bool ReadPictures(const PictureArea& area, std::vector<ColFilePicture>& pictures) {
+    if (area.directory.size() / 48 > kMaxPictures) return false;
+    std::size_t offset = 0;
+    for (std::size_t e = 0; e + 48 <= area.directory.size(); e += 48) {
+        const std::string name = Windows1252ToUtf8(TrimBlanks(area.directory.substr(e, 32)));
+        const double length = LeadingNumberSkippingBlanks(area.directory.substr(e + 40, 8));
+        if (length < 0 || offset + static_cast<std::size_t>(length) > area.images.size()) return false;
+        pictures.push_back({name, area.images.substr(offset, static_cast<std::size_t>(length))});
+        offset += static_cast<std::size_t>(length);
+    }
+    return true;
+}
+} // namespace
+
+ColFileContents ParseColFile(const std::string& file) {
+    const auto headEnd = file.find("#CABECERA)");
+    if (headEnd == std::string::npos) return Damaged(ColFileError::BadFile);
+
+    PictureArea area;
+    const auto binDir = file.find("#BINDIR(");
+    if (binDir != std::string::npos && !ReadPictureArea(file, file.substr(binDir + 8, 8), area))
+        return Damaged(ColFileError::BadFile);
+
+    std::string head = headEnd > 10 ? file.substr(10, headEnd - 10) : "";
+    const std::string rest = TrimBlanks(file.substr(headEnd + 10));
+    std::string values[kHeadElementCount];
+    for (int k = 0; k < kHeadElementCount; ++k)
+        if (!TakeElement(head, kHeadElements[k].open, kHeadElements[k].close, values[k]))
+            return Damaged(ColFileError::BadFile);
+    std::string pointer;
+    // Files of older versions have no directory pointer at all.
+    if (TakeElement(head, "#BINDIR(", "#BINDIR)", pointer) && !ReadPictureArea(file, pointer, area))
+        return Damaged(ColFileError::BadFile);
+
+    ColFileContents contents;
+    CollectionSettings& s = contents.settings;
+    s.Title = Windows1252ToUtf8(values[1]);
+    s.PagePositionCode = HeadNumber(values[2]);
+    s.NumberColour = HeadNumber(values[3]);
+    s.Sorted = LeadingNumberSkippingBlanks(values[4]) == 1;
+    s.FirstPageNumber = HeadNumber(values[5]);
+    s.SolutionPosition = HeadNumber(values[6]);
+    s.NumberPrefix = Windows1252ToUtf8(values[7]);
+    s.NumberSuffix = Windows1252ToUtf8(values[8]);
+    s.FirstProblemNumber = HeadNumber(values[9]);
+
+    // The record array ends at 500; a longer block is not a collection of this program.
+    contents.records = ReadProblemLines(Windows1252ToUtf8(values[0]), kMaxProblems);
+    if (contents.records.empty()) return Damaged(ColFileError::NoProblems);
+    s.ProblemCount = static_cast<std::int32_t>(contents.records.size());
+
+    if (values[1].size() > kMaxTitleBytes || values[7].size() > kMaxAffixBytes || values[8].size() > kMaxAffixBytes)
+        return Damaged(ColFileError::BadFile);
+    if (!ReadProblemElements(rest, contents.records)) return Damaged(ColFileError::BadFile);
+    if (area.dir != 0 && !ReadPictures(area, contents.pictures)) return Damaged(ColFileError::BadFile);
+    return contents;
+}
+
+void StorePictures(const ApplicationState& app, const std::vector<ColFilePicture>& pictures) {
+    for (const auto& picture : pictures) StorePicture(app, picture.name, picture.bytes);
 }

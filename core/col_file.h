@@ -24,15 +24,8 @@ std::string AsFileText(std::string text, std::size_t limit);
 std::string Utf8ToWindows1252(const std::string& text);
 std::string Windows1252ToUtf8(const std::string& bytes);
 
-// The 102-character line of one problem: identity, shown number, CR LF.
-std::string ProblemLine(const ProblemRecord& record, long long shownNumber);
-// The clipboard form of one problem.
-std::string ProblemClipboardText(const ProblemRecord& record);
 // Reads the clipboard form back into a record (identity and texts).
 void ReadClipboardProblem(const std::string& text, ProblemRecord& record);
-// Divides "#ENU(" statement "#ENU)#SOL(" solution "#SOL)" at its first "#SOL(" by the
-// known lengths. False when the element is too short to hold its tags.
-bool SplitProblemElement(const std::string& element, std::string& statement, std::string& solution);
 
 // The file's bytes before any image: head and problem elements, with the directory
 // pointer still "00000000".
@@ -42,10 +35,37 @@ std::vector<std::string> ImageNames(const std::string& text);
 
 // Writes the collection to CurrentFileName. True on success (Modified cleared).
 bool SaveFile(ApplicationState& app);
-// Reads CurrentFileName. True on success; on failure the no-collection state holds.
-bool OpenFile(ApplicationState& app);
-// The "Bad file." box, then the no-collection state.
-void AvisoError(ApplicationState& app);
 
 // Builds the whole file in memory; on failure leaves a message in error and returns false.
 bool BuildFileBytes(const ApplicationState& app, std::string& bytes, std::string& error);
+
+// Why a file's bytes are not a collection: BadFile is said "Bad file.", NoProblems (the
+// problem lines are not whole 102-character lines, or none) "Error: Bad file.".
+enum class ColFileError { None, BadFile, NoProblems };
+
+// One picture carried inside a file: its name from the directory and its bytes.
+struct ColFilePicture {
+    std::string name;
+    std::string bytes;
+};
+
+// What a file holds: the mirror of BuildFileBytes.
+struct ColFileContents {
+    CollectionSettings settings;  // ProblemCount is the number of records
+    std::vector<ProblemRecord> records;
+    std::vector<ColFilePicture> pictures;
+    ColFileError error = ColFileError::None;
+};
+
+// Reads a file's bytes: settings, records with their texts and the pictures, or the error.
+// Touches no state and no disk.
+ColFileContents ParseColFile(const std::string& bytes);
+
+// How reading a file's bytes from the disk ended. errno tells why on CannotOpen.
+enum class FileReadResult { Read, CannotOpen, Bad };
+// The bytes of a collection file: only a regular file of at most kMaxFileBytes is read
+// (Bad otherwise), without waiting on a pipe.
+FileReadResult ReadCollectionBytes(const std::string& path, std::string& bytes);
+
+// Lands the pictures of an opened file in the temp folder, those the image folder lacks.
+void StorePictures(const ApplicationState& app, const std::vector<ColFilePicture>& pictures);

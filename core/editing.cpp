@@ -1,6 +1,8 @@
 #include "core/editing.h"
 
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 
 #include "core/col_file.h"
@@ -368,4 +370,103 @@ void PrepareEditMenu(ApplicationState& app) {
             app.menus->SetEnabled("mnu_Edicion_Mover_3", false);
         }
     }
+}
+
+void NewCollectionCommand(ApplicationState& app) {
+    app.SettingsAccepted = false;
+    app.Reseed();
+    const UndoHistory history = SaveHistory(app);
+    SetUNDO(app, "new collection");
+    app.SettingsAccepted = app.window->ShowWizard();
+    if (!app.SettingsAccepted || WantedProblemCount(app) < 1) {
+        // Nothing was made: the settings and the undo and redo points stay as they were.
+        app.Settings = app.UndoSnapshot.settings;
+        RestoreHistory(app, history);
+        return;
+    }
+    app.ModuleNames.clear();
+    Arbol_to_Var(app);
+    ActualizaMenusCheckeados(app);
+    CrearColeccion(app, 1);
+    HayColeccion(app);
+    app.menus->ActualizarBotones();
+}
+
+void AvisoError(ApplicationState& app) {
+    app.window->SetWaitCursor(false);
+    app.window->ShowMessage("Bad file.", "Error", MessageIcon::Exclamation);
+    NoColeccion(app);
+}
+
+namespace {
+// A file whose bytes are not a collection: its message, then the no-collection state.
+void RefuseDamagedFile(ApplicationState& app, ColFileError error) {
+    if (error == ColFileError::NoProblems) {
+        app.window->SetWaitCursor(false);
+        app.window->ShowMessage("Error: Bad file.", "", MessageIcon::None);
+        NoColeccion(app);
+        return;
+    }
+    AvisoError(app);
+}
+
+// Puts the settings and the records of a parsed file in the state.
+void TakeCollection(ApplicationState& app, ColFileContents& contents) {
+    app.Settings = contents.settings;
+    for (std::size_t i = 0; i < contents.records.size(); ++i) {
+        AddModuleName(app, contents.records[i].ModuleName);
+        app.Problems[i + 1] = std::move(contents.records[i]);
+    }
+    app.Settings.ProblemCount = static_cast<std::int32_t>(contents.records.size());
+}
+} // namespace
+
+bool OpenFile(ApplicationState& app) {
+    app.window->SetBusy(true);
+    const std::string name = app.CurrentFileName;
+    if (name.size() < 4 || Upper(name.substr(name.size() - 4)) != ".COL") {
+        // Refused, but said so, and with the menus and toolbar given back: a silent refusal
+        // left them disabled and the collection on screen could no longer be saved.
+        app.CurrentFileName.clear();
+        app.window->SetBusy(false);
+        app.window->SetWaitCursor(false);
+        app.window->ShowMessage("Cannot open " + std::filesystem::path(name).filename().string() +
+                                    ": the name of a problem collection ends in \".col\".",
+                                "Error", MessageIcon::Exclamation);
+        return false;
+    }
+    app.window->SetWaitCursor(true);
+    std::string file;
+    const FileReadResult read = ReadCollectionBytes(name, file);
+    if (read == FileReadResult::CannotOpen) {
+        // The system's reason says more than "Bad file." about a file that isn't there.
+        const int e = errno;
+        app.window->SetWaitCursor(false);
+        app.window->ShowMessage("Cannot open " + name + ": " + std::strerror(e), "Error", MessageIcon::Exclamation);
+        NoColeccion(app);
+        return false;
+    }
+    if (read == FileReadResult::Bad) {
+        AvisoError(app);
+        return false;
+    }
+    ColFileContents contents = ParseColFile(file);
+    file.clear();
+    if (contents.error != ColFileError::None) {
+        // Nothing of a damaged file is taken, not even the settings it had before the damage.
+        RefuseDamagedFile(app, contents.error);
+        return false;
+    }
+    TakeCollection(app, contents);
+    StorePictures(app, contents.pictures);
+
+    ActualizaMenusCheckeados(app);
+    ComposeDocument(app, true, 1);
+    app.Modified = false;
+    app.window->SetCaption(std::filesystem::path(name).filename().string() + "  -  " + app.ApplicationTitle);
+    app.window->AddRecentFile(name);
+    HayColeccion(app);
+    SetUNDO(app, "");
+    app.menus->ActualizarBotones();
+    return true;
 }

@@ -47,6 +47,15 @@ void RecreateButton(ApplicationState& app);
 void SolutionPositionCommand(ApplicationState& app, int position);
 void CollectionPropertiesCommand(ApplicationState& app);
 
+// The new-collection command: undo point, wizard, and on acceptance the new collection.
+void NewCollectionCommand(ApplicationState& app);
+
+// Opens CurrentFileName: reads and parses it, and on success puts its collection in the
+// window. True on success; on failure the no-collection state holds.
+bool OpenFile(ApplicationState& app);
+// The "Bad file." box, then the no-collection state.
+void AvisoError(ApplicationState& app);
+
 // Checks the menu item of the present position of solutions.
 void ActualizaMenusCheckeados(ApplicationState& app);
 // Enables the Edit menu's items for the present selection.

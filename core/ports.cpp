@@ -1,6 +1,6 @@
 #include "core/ports.h"
 
-#include "core/collection.h"
+#include "mathservices/utf8_text.h"
 
 std::int32_t FitAllMeasure::MeasurePage(const std::string& text, double zoomScale) {
     // Line ends inside the text mean nothing; lines are split at "&LF", and a line that
@@ -19,7 +19,7 @@ std::int32_t FitAllMeasure::MeasurePage(const std::string& text, double zoomScal
     while (true) {
         const auto end = plain.find("&LF", start);
         if (plain.compare(start, 5, "#MARK") == 0)
-            flow = static_cast<std::int32_t>(LeadingNumber(plain.substr(start + 6, 4)));
+            flow = static_cast<std::int32_t>(LeadingNumberSkippingBlanks(plain.substr(start + 6, 4)));
         if (end == std::string::npos) break;
         start = end + 3;
     }

@@ -7,13 +7,9 @@
 
 #include "generators/catalogue.h"
 #include "mathservices/faults.h"
+#include "mathservices/utf8_text.h"
 
 namespace {
-std::string Upper(std::string s) {
-    std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return std::toupper(c); });
-    return s;
-}
-
 // The pending arithmetic fault, from the floating-point flags the routine left.
 int PendingFloatingFault() {
     if (std::fetestexcept(FE_DIVBYZERO)) return kFaultDivisionByZero;
@@ -36,8 +32,18 @@ std::string FaultStatement(int number, const std::string& description, const std
            " &LFCommand=" + code + "&LFModule=" + moduleName + "&LF";
 }
 
+void GeneratorHub::RunGenerator(const std::string& moduleName, const ProblemCodeFields& code,
+                                std::string& statement, std::string& solution) {
+    Run(moduleName, code, "", statement, solution);
+}
+
 void GeneratorHub::RunGenerator(const std::string& moduleName, const std::string& code, std::string& statement,
                                 std::string& solution) {
+    Run(moduleName, ReadProblemCode(code), code, statement, solution);
+}
+
+void GeneratorHub::Run(const std::string& moduleName, const ProblemCodeFields& code, const std::string& codeText,
+                       std::string& statement, std::string& solution) {
     const std::string name = Upper(moduleName);
     const auto module =
         std::find_if(modules_.begin(), modules_.end(), [&](const GeneratorModule& m) { return m.name == name; });
@@ -50,7 +56,9 @@ void GeneratorHub::RunGenerator(const std::string& moduleName, const std::string
     std::string description;
     std::feclearexcept(FE_ALL_EXCEPT);
     try {
-        RunRouter(ws_, *module, code, statement, solution, 0);
+        const std::string routineText = codeText.empty() ? ZeroFilled(code.RoutineId, 3)
+                                                         : codeText.substr(0, std::min<std::size_t>(3, codeText.size()));
+        RunRoutine(ws_, *module, code, routineText, statement, solution);
     } catch (const GeneratorFault& f) {
         fault = f.number;
         description = f.what();
@@ -63,7 +71,8 @@ void GeneratorHub::RunGenerator(const std::string& moduleName, const std::string
     std::feclearexcept(FE_ALL_EXCEPT);
     if (fault != 0) {
         if (description.empty()) description = FaultDescription(fault);
-        statement = FaultStatement(fault, description, code, moduleName);
+        statement =
+            FaultStatement(fault, description, codeText.empty() ? MakeProblemCode(code) : codeText, moduleName);
         solution = "<ERROR>&LF";
     }
 }

@@ -14,8 +14,12 @@ public:
     // A hub over other modules than the ten of the program (for tests).
     explicit GeneratorHub(std::vector<GeneratorModule> modules);
 
-    // Runs one generator in generate mode. An unknown module, an unknown routine or a
-    // fault inside the routine becomes text inside the problem; nothing escapes.
+    // Runs one generator in generate mode with the fields of a problem code. An unknown
+    // module, an unknown routine or a fault inside the routine becomes text inside the
+    // problem; nothing escapes.
+    void RunGenerator(const std::string& moduleName, const ProblemCodeFields& code, std::string& statement,
+                      std::string& solution);
+    // The same for a code as text (a typed or stored one).
     void RunGenerator(const std::string& moduleName, const std::string& code, std::string& statement,
                       std::string& solution);
 
@@ -27,6 +31,11 @@ public:
     const std::vector<GeneratorModule>& Modules() const { return modules_; }
 
 private:
+    // codeText: the code as it was given, or empty when it came as fields (then the text
+    // is made from them where a message shows it).
+    void Run(const std::string& moduleName, const ProblemCodeFields& code, const std::string& codeText,
+             std::string& statement, std::string& solution);
+
     GeneratorWorkspace ws_;
     std::vector<GeneratorModule> modules_;
     std::vector<std::string> catalogue_;

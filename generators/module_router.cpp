@@ -1,9 +1,9 @@
 #include "generators/module_router.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "generators/catalogue.h"
+#include "mathservices/utf8_text.h"
 
 GeneratorRoutine GeneratorModule::Find(int number) const {
     for (const auto& entry : routines) {
@@ -13,11 +13,6 @@ GeneratorRoutine GeneratorModule::Find(int number) const {
 }
 
 namespace {
-std::string Upper(std::string s) {
-    std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return std::toupper(c); });
-    return s;
-}
-
 std::string NotFoundText(const GeneratorModule& module, const std::string& routineId) {
     // The basic-geometry module has always answered in the other language.
     if (module.notFoundWording == NotFoundWording::Spanish)
@@ -50,9 +45,15 @@ std::string RunRouter(GeneratorWorkspace& ws, const GeneratorModule& module, con
                       std::string& statement, std::string& solution, std::int16_t describeMode) {
     ws.DescribeMode = describeMode;
     if (describeMode != 0) return Describe(ws, module);
+    RunRoutine(ws, module, ReadProblemCode(code), code.substr(0, std::min<std::size_t>(3, code.size())), statement,
+               solution);
+    return "";
+}
 
-    const ProblemCodeFields fields = ReadProblemCode(code);
-    ws.RoutineId = code.substr(0, std::min<std::size_t>(3, code.size()));
+void RunRoutine(GeneratorWorkspace& ws, const GeneratorModule& module, const ProblemCodeFields& fields,
+                const std::string& routineText, std::string& statement, std::string& solution) {
+    ws.DescribeMode = 0;
+    ws.RoutineId = routineText;
     ws.VariantNumber = fields.VariantNumber;
     ws.Seed = fields.Seed;
     ws.ItemCount = fields.ItemCount;
@@ -74,5 +75,4 @@ std::string RunRouter(GeneratorWorkspace& ws, const GeneratorModule& module, con
     }
     statement = ws.Statement;
     solution = ws.Solution;
-    return "";
 }

@@ -32,6 +32,11 @@ struct GeneratorModule {
 // runs one routine; in describe mode it returns "NAME:" and the module's catalogue text.
 std::string RunRouter(GeneratorWorkspace& ws, const GeneratorModule& module, const std::string& code,
                       std::string& statement, std::string& solution, std::int16_t describeMode);
+// Generate mode with the fields of a code: seeds the stream from them and runs the routine.
+// routineText is the routine's number as the code shows it (for the text of a routine
+// the module lacks).
+void RunRoutine(GeneratorWorkspace& ws, const GeneratorModule& module, const ProblemCodeFields& code,
+                const std::string& routineText, std::string& statement, std::string& solution);
 
 // The ten modules, each defined in its own folder.
 GeneratorModule MakeKvolMathAlg();

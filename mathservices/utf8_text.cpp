@@ -1,5 +1,8 @@
 #include "mathservices/utf8_text.h"
 
+#include <algorithm>
+#include <cctype>
+
 namespace {
 bool IsContinuation(unsigned char c) { return (c & 0xC0) == 0x80; }
 
@@ -44,4 +47,49 @@ std::string TrimBlanks(const std::string& text) {
     if (first == std::string::npos) return "";
     const auto last = text.find_last_not_of(' ');
     return text.substr(first, last - first + 1);
+}
+
+std::string Upper(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::toupper(c); });
+    return text;
+}
+
+double LeadingNumberSkippingBlanks(const std::string& text) {
+    std::size_t i = 0;
+    auto skipBlanks = [&] {
+        while (i < text.size() && (text[i] == ' ' || text[i] == '\t')) ++i;
+    };
+    skipBlanks();
+    double sign = 1;
+    if (i < text.size() && (text[i] == '-' || text[i] == '+')) {
+        if (text[i] == '-') sign = -1;
+        ++i;
+    }
+    double value = 0;
+    bool fraction = false;
+    double scale = 1;
+    while (true) {
+        skipBlanks();
+        if (i >= text.size()) break;
+        const char c = text[i];
+        if (c >= '0' && c <= '9') {
+            if (fraction) {
+                scale /= 10;
+                value += (c - '0') * scale;
+            } else {
+                value = value * 10 + (c - '0');
+            }
+        } else if (c == '.' && !fraction) {
+            fraction = true;
+        } else {
+            break;
+        }
+        ++i;
+    }
+    return sign * value;
+}
+
+std::string ZeroFilled(long long value, int width) {
+    const std::string padded = std::string(static_cast<std::size_t>(width), '0') + std::to_string(value);
+    return padded.substr(padded.size() - static_cast<std::size_t>(width));
 }

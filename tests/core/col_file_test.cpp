@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "core/col_file.h"
+#include "core/editing.h"
 #include "core/collection.h"
 #include "core/composition.h"
 #include "core_fakes.h"

@@ -12,7 +12,8 @@ std::int32_t LineMeasure::MeasurePage(const std::string& text, double) {
     std::size_t start = 0;
     while (true) {
         const auto end = text.find("&LF", start);
-        if (text.compare(start, 5, "#MARK") == 0) flow = static_cast<std::int32_t>(LeadingNumber(text.substr(start + 6, 4)));
+        if (text.compare(start, 5, "#MARK") == 0)
+            flow = static_cast<std::int32_t>(LeadingNumberSkippingBlanks(text.substr(start + 6, 4)));
         ++lines;
         if (lines > capacity) return -flow;
         if (end == std::string::npos) break;

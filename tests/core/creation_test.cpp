@@ -2,6 +2,7 @@
 
 #include "core/collection.h"
 #include "core/composition.h"
+#include "core/editing.h"
 #include "core_fakes.h"
 #include "generators/generator_contract.h"
 #include "mathservices/utf8_text.h"
@@ -74,7 +75,37 @@ TEST(Creation, ArbolToVarClearsUnselectedNodesAndNamesModulesOnce) {
     EXPECT_EQ(bench.app.ModuleNames, (std::vector<std::string>{"KVOL_TEST", "KVOL_OTHER"}));
     EXPECT_EQ(bench.app.Problems[3].ModuleName, "KVOL_OTHER");
     EXPECT_EQ(bench.app.Problems[4].RoutineId, 2);
-    EXPECT_EQ(bench.menus.checked["mnu_COLEC_SolDespPro"], true);
+    // The records only: the command that asked for them brings the menus up to date.
+    EXPECT_TRUE(bench.menus.checked.empty());
+}
+
+TEST(Creation, AppendProblemGroupGivesTheRecordsOfOneTreeNode) {
+    TestBench fromTree;
+    TestBench direct;
+    for (TestBench* b : {&fromTree, &direct}) {
+        b->app.ClockSeed = [] { return 4711; };
+        b->app.Reseed();
+    }
+    fromTree.app.TopicTree = {TopicNode{}, Leaf("KVOL_TEST", 1, 3, 2), Leaf("KVOL_OTHER", 4, 2, 0)};
+    Arbol_to_Var(fromTree.app);
+    AppendProblemGroup(direct.app, "KVOL_TEST   ", 1, 3, 2);
+    AppendProblemGroup(direct.app, " KVOL_OTHER", 4, 2, 0);
+    ASSERT_EQ(direct.app.ProblemCount(), 5);
+    ASSERT_EQ(fromTree.app.ProblemCount(), 5);
+    for (int i = 1; i <= 5; ++i) EXPECT_EQ(direct.app.Problems[i], fromTree.app.Problems[i]) << i;
+    EXPECT_EQ(direct.app.ModuleNames, fromTree.app.ModuleNames);
+    EXPECT_EQ(direct.app.Problems[4].ModuleName, "KVOL_OTHER");
+    EXPECT_EQ(direct.app.Problems[5].GroupIndex, 2);
+}
+
+TEST(Creation, AppendProblemGroupStopsAtFiveHundred) {
+    TestBench bench;
+    for (int k = 0; k < 5; ++k) AppendProblemGroup(bench.app, "KVOL_TEST", 1, 99, 1);
+    EXPECT_EQ(bench.app.ProblemCount(), 495);
+    AppendProblemGroup(bench.app, "KVOL_TEST", 2, 20, 1);
+    EXPECT_EQ(bench.app.ProblemCount(), kMaxProblems);
+    EXPECT_EQ(bench.app.Problems[kMaxProblems].GroupIndex, 5);
+    EXPECT_EQ(bench.app.Problems[kMaxProblems].GroupSize, 20);
 }
 
 TEST(Creation, MoreThanFiveHundredWantedStopsAtFiveHundred) {
@@ -237,6 +268,7 @@ TEST(Creation, NewCollectionCommandRunsTheWizardAndCreates) {
     EXPECT_EQ(bench.app.ModuleNames, std::vector<std::string>{"KVOL_TEST"});
     EXPECT_EQ(bench.app.UndoCaption, "Undo new collection");
     EXPECT_TRUE(bench.menus.visible["mnu_Edicion"]);
+    EXPECT_TRUE(bench.menus.checked["mnu_COLEC_SolDespPro"]);
 }
 
 // The topic tree of a subject.

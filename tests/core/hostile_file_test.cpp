@@ -14,6 +14,7 @@
 #include <unistd.h>
 
 #include "core/col_file.h"
+#include "core/editing.h"
 #include "core_fakes.h"
 
 namespace fs = std::filesystem;

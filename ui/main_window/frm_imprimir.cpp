@@ -42,7 +42,9 @@ std::vector<std::string> SplitLimited(const std::string& text, std::size_t limit
     return parts;
 }
 
-long long PageNumberOf(const std::string& text) { return static_cast<long long>(std::floor(std::fabs(LeadingNumber(text)))); }
+long long PageNumberOf(const std::string& text) {
+    return static_cast<long long>(std::floor(std::fabs(LeadingNumberSkippingBlanks(text))));
+}
 
 // Two small drawings of stacked sheets: collated sets 1 2 3 / 1 2 3, or 1 1 / 2 2 / 3 3.
 QPixmap CollatePicture(bool collate) {
@@ -216,7 +218,7 @@ void FrmImprimir::Text1Changed() {
     if (syncing_) return;
     syncing_ = true;
     if (text1_->text().isEmpty()) text1_->setText("1");
-    const double value = LeadingNumber(text1_->text().toStdString());
+    const double value = LeadingNumberSkippingBlanks(text1_->text().toStdString());
     if (value >= 1 && value <= 1999) vscroll1_->setValue(static_cast<int>(value));
     syncing_ = false;
 }
@@ -241,7 +243,7 @@ bool FrmImprimir::eventFilter(QObject* watched, QEvent* event) {
 void FrmImprimir::CmdImprimirClick() {
     options_.accepted = true;
     options_.collate = chkCollate_->isChecked();
-    const double copies = LeadingNumber(text1_->text().toStdString());
+    const double copies = LeadingNumberSkippingBlanks(text1_->text().toStdString());
     if (copies < 1 || copies > 1999) {
         message("The number of copies isn't valid. Max. 1999 copies.", "Error");
         return;

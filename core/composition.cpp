@@ -32,6 +32,8 @@ std::string PlainTextMarkup(const std::string& text) {
     return markup;
 }
 
+std::string NameLineMarkup() { return PlainTextMarkup(kNameLineText) + "&LF&LF"; }
+
 std::string NumberBox(const CollectionSettings& settings, long long number) {
     const double colour = settings.NumberColour;
     const long long r = static_cast<long long>(settings.NumberColour) & 0xFF;

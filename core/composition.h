@@ -14,6 +14,8 @@ std::string PageMark(int block);
 // Plain text (a title, a prefix, a suffix) as markup that prints it as typed: "#", "&", "_"
 // and "^" are doubled.
 std::string PlainTextMarkup(const std::string& text);
+// The name line a pupil fills in, as markup with its empty line below.
+std::string NameLineMarkup();
 
 // The framed number of a problem, in the collection's colour, prefix and suffix.
 std::string NumberBox(const CollectionSettings& settings, long long number);

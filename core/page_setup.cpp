@@ -2,8 +2,7 @@
 
 #include <cmath>
 
-#include "core/collection.h"
-#include "core/composition.h"
+#include "mathservices/utf8_text.h"
 
 double PaperWidthMm(PaperSize paper) { return paper == PaperSize::Letter ? 215.9 : 210.0; }
 double PaperHeightMm(PaperSize paper) { return paper == PaperSize::Letter ? 279.4 : 297.0; }
@@ -20,8 +19,6 @@ bool ReadPaperName(const std::string& word, PaperSize& paper) {
 }
 
 std::string PaperName(PaperSize paper) { return paper == PaperSize::Letter ? "letter" : "a4"; }
-
-std::string NameLineMarkup() { return PlainTextMarkup(kNameLineText) + "&LF&LF"; }
 
 bool PageHasNameLine(const PageSetup& setup, int page) {
     if (setup.nameLine == NameLinePlace::EveryPage) return true;

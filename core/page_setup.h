@@ -25,8 +25,7 @@ int SheetPixelsHigh(PaperSize paper);
 bool ReadPaperName(const std::string& word, PaperSize& paper);
 std::string PaperName(PaperSize paper);
 
-// The line a pupil fills in, as plain text and as markup with its empty line below.
+// The line a pupil fills in, as plain text (composition makes its markup).
 inline constexpr const char* kNameLineText = "Name: ________  Class: ______  Date: ________";
-std::string NameLineMarkup();
 // Whether page (1 = the first of the document) carries the name line.
 bool PageHasNameLine(const PageSetup& setup, int page);

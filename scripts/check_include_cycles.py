@@ -17,7 +17,7 @@ import re
 import sys
 
 # The folders that ./test.sh and ctest keep free of circles.
-CHECKED_FOLDERS = ["core"]
+CHECKED_FOLDERS = ["core", "typesetter"]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 SOURCE_ENDINGS = (".h", ".hpp", ".cpp", ".cc", ".inc")

@@ -61,7 +61,7 @@ SavedFont SaveFont(DrawingSurface& s) {
 // The top of a line (lineY, from the top margin) moved below every hung picture that it
 // would touch; a line that stays clear of a picture's sides flows beside it, unless it opens
 // the next problem, which never stands beside the picture of another.
-double KeepClearOfPictures(const PageSetup& page, const FlowState& flow, double lineY, double left, double right,
+double KeepClearOfPictures(const PageDevices& page, const FlowState& flow, double lineY, double left, double right,
                            double gapX, double gapY, bool opensProblem) {
     bool moved = true;
     while (moved) {

@@ -697,7 +697,7 @@ void ParseFillList(const std::u32string& text, std::u32string& kind, double& wid
     if (c2 != std::u32string::npos) height = LeadingNumber(text.substr(c2 + 1));
 }
 
-std::u32string ExpandLocaleCodes(const PageSetup& setup, const std::u32string& line) {
+std::u32string ExpandLocaleCodes(const PageDevices& setup, const std::u32string& line) {
     const NumberTexts& texts = setup.numberTexts;
     const std::pair<std::u32string, const std::string*> codes[] = {
         {U"&.", &texts.decimalSeparator}, {U"&,", &texts.listSeparator},  {U"&(", &texts.openBracket},
@@ -724,19 +724,19 @@ std::u32string ExpandLocaleCodes(const PageSetup& setup, const std::u32string& l
     return out;
 }
 
-double AscentTwips(const PageSetup& setup, DrawingSurface& surface) {
+double AscentTwips(const PageDevices& setup, DrawingSurface& surface) {
     const DrawingSurface* screen = setup.ScreenSurface;
     const double tpp = (&surface != setup.PrinterSurface && screen != nullptr) ? screen->TwipsPerPixelY()
                                                                                  : surface.TwipsPerPixelY();
     return surface.Ascent() * tpp;
 }
 
-double StrokeTwipsPerPixel(const PageSetup& setup, const DrawingSurface& surface) {
+double StrokeTwipsPerPixel(const PageDevices& setup, const DrawingSurface& surface) {
     if (&surface == setup.PrinterSurface || setup.ScreenSurface == nullptr) return surface.TwipsPerPixelX();
     return setup.ScreenSurface->TwipsPerPixelX();
 }
 
-void SetStrokeWidth(const PageSetup& setup, DrawingSurface& surface, double t) {
+void SetStrokeWidth(const PageDevices& setup, DrawingSurface& surface, double t) {
     const double px = t / StrokeTwipsPerPixel(setup, surface);
     surface.SetDrawWidth(px < 1 || !std::isfinite(px) ? 1 : static_cast<int>(std::min(px, 10000.0)));
 }

@@ -29,15 +29,15 @@ void ParseFillList(const std::u32string& text, std::u32string& kind, double& wid
 
 // Replaces the locale codes "&." "&," "&(" "&)" "&FA" "&DT" of one line by the page setup's
 // number texts.
-std::u32string ExpandLocaleCodes(const PageSetup& setup, const std::u32string& line);
+std::u32string ExpandLocaleCodes(const PageDevices& setup, const std::u32string& line);
 
 // Shared by the constructs.
 // The font's ascent in twips.
-double AscentTwips(const PageSetup& setup, DrawingSurface& surface);
+double AscentTwips(const PageDevices& setup, DrawingSurface& surface);
 // Twips per pixel used to turn a stroke thickness into DrawWidth.
-double StrokeTwipsPerPixel(const PageSetup& setup, const DrawingSurface& surface);
+double StrokeTwipsPerPixel(const PageDevices& setup, const DrawingSurface& surface);
 // DrawWidth for a stroke of t twips: t / twips per pixel, not below 1.
-void SetStrokeWidth(const PageSetup& setup, DrawingSurface& surface, double t);
+void SetStrokeWidth(const PageDevices& setup, DrawingSurface& surface, double t);
 // Takes the next box for piece number place (0..9) of the construct whose box is
 // parentBox, records it (measure pass) and interprets text into it. Returns the box
 // number, or 0 when the box table is full (the piece is then left out, in both passes).

@@ -48,7 +48,7 @@ struct SymbolTables {
 
 // Set by the caller before LayoutText, and the page geometry (twips) that LayoutText takes
 // from the surface at the start of each call.
-struct PageSetup {
+struct PageDevices {
     double ZoomScale = 1.0;
     double PageWidth = 0, PageHeight = 0;
     double MarginLeft = 0, MarginRight = 0, MarginTop = 0, MarginBottom = 0;
@@ -127,7 +127,7 @@ struct LayoutResults {
 
 // Every table of the typesetter, made by the caller and handed to each call. A test makes
 // a fresh one; nothing of the typesetter lives anywhere else.
-struct TypesetterState : SymbolTables, PageSetup, FlowState, LineBoxes, LayoutResults {
+struct TypesetterState : SymbolTables, PageDevices, FlowState, LineBoxes, LayoutResults {
     TypesetterState();
 };
 

@@ -241,7 +241,7 @@ void AreaInvolvingOneFunction(GeneratorWorkspace& ws) {
     if (g == 1) {
         type = static_cast<int>(RandomInRange(ws, 1, 8, 1, 1));
     } else {
-        // A group size of 0 divides by zero here, as it always has.
+        // A group size of 0 divides by zero here; the hub reports it as the problem's text.
         const double p = Int(100 * i / g);
         const int index = static_cast<int>(i);
         if (p <= 33) {

@@ -33,22 +33,17 @@ void CompareOrRenew(const std::string& name, const std::string& actual) {
     EXPECT_EQ(actual, expected) << "renew with SUMFORGE_RENEW_DESCRIBE=1 only for a change made on purpose";
 }
 
-// The block of one routine as its describe branch leaves it; an item count that the
-// routine does not set stays empty.
+// The describe block of one routine as its module's table holds it.
 std::string BlockText(const GeneratorModule& module, const RoutineEntry& entry) {
-    GeneratorWorkspace ws;
-    ws.DescribeMode = -1;
-    const std::string unset = "\x01";
-    ws.MaxAmount = unset;
-    entry.routine(ws);
-    return module.name + " " + std::to_string(entry.number) + "\n" +  //
-           "  subject: " + ws.Subject + "\n" +                          //
-           "  topic: " + ws.TopicId + " " + ws.TopicName + "\n" +      //
-           "  subtopic: " + ws.SubtopicId + "\n" +                      //
-           "  kind: " + ws.Kind + "\n" +                                //
-           "  greatest item count: " + (ws.MaxAmount == unset ? "" : ws.MaxAmount) + "\n" +
-           "  title: " + ws.Title + "\n" +  //
-           "  description: " + ws.Description + "\n";
+    const DescribeBlock& b = entry.describe;
+    return module.name + " " + std::to_string(entry.number) + "\n" +
+           "  subject: " + b.subject + "\n" +
+           "  topic: " + b.topicId + " " + b.topicName + "\n" +
+           "  subtopic: " + b.subtopicId + "\n" +
+           "  kind: " + b.kind + "\n" +
+           "  greatest item count: " + b.maxAmount + "\n" +
+           "  title: " + b.title + "\n" +
+           "  description: " + b.description + "\n";
 }
 } // namespace
 

@@ -30,11 +30,7 @@ std::string DescribeModule(GeneratorWorkspace& ws, const GeneratorModule& module
     std::vector<std::string> headers;
     for (int number = 1; number <= module.greatestNumber; ++number) {
         ws.Subject.clear();
-        if (const RoutineEntry* entry = module.Find(number)) {
-            // TRANSITION: routines still describing themselves
-            if (entry->describe.title.empty()) entry->routine(ws);
-            else Describe(ws, entry->describe);
-        }
+        if (const RoutineEntry* entry = module.Find(number)) Describe(ws, entry->describe);
         if (ws.Subject.empty()) continue;
         NormaliseDescribeFields(ws, number);
         const std::string header = TopicHeaderLine(ws);

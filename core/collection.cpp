@@ -15,7 +15,7 @@ std::string Upper(std::string text) {
 }
 
 double LeadingNumber(const std::string& text) {
-    // Blanks are passed over anywhere in the number, as the old conversion did.
+    // Blanks are passed over anywhere in the number: "1 2" reads as 12.
     std::size_t i = 0;
     auto skipBlanks = [&] {
         while (i < text.size() && (text[i] == ' ' || text[i] == '\t')) ++i;

@@ -14,13 +14,13 @@ GeneratorModule MakeKvolMathAlg() {
                   "Problems about systems of 2\u00D72 matricial linear equations. (2 types of size)"}},
                 {3, ParameterDeterminantAndInverse,
                  {"100", "Algebra", "017", "3", "", "Determinant and inverse matrix with a parameter",
-                  "Calculation of parameter for which a determinant is null or a matrix has/hasn't inverse. (3 "
-                  "types)"}},
+                  "Calculation of parameter for which a determinant is null or a matrix has/hasn't inverse. "
+                  "(3 types)"}},
                 {4, DiscussSystemWithoutParameter,
                  {"100", "Algebra", "028", "3", "",
                   "Discuss and solve of system of 3\u00D73 linear equations (without parameter)",
-                  "Discuss and solve of a system of 3\u00D73 linear equations (without parameter): Compatible / "
-                  "incompatible, determinate / indeterminate. (3 types)"}},
+                  "Discuss and solve of a system of 3\u00D73 linear equations (without parameter): "
+                  "Compatible / incompatible, determinate / indeterminate. (3 types)"}},
                 {5, DiscussSystemWithParameter,
                  {"100", "Algebra", "029", "3", "",
                   "Discuss and solve system of 3\u00D73 linear equations (with parameter)",

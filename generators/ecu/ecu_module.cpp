@@ -33,8 +33,8 @@ GeneratorModule MakeKvolMathEcu() {
                 {9, NonlinearSystems,
                  {"090", "Systems of equations", "021", "2", "021",
                   "Systems of 2\u00D72 equations (linear and quadratic)",
-                  "Exercises about nonlinear systems of 2\u00D72 equations (linear and quadratic) with integer "
-                  "coefficients. (1 type)"}},
+                  "Exercises about nonlinear systems of 2\u00D72 equations "
+                  "(linear and quadratic) with integer coefficients. (1 type)"}},
                 {10, ExponentialEquations,
                  {"070", "Equations", "025", "2", "026", "Exponential equations",
                   "Exercises about exponential equations. (4 types)"}},

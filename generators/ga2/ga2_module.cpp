@@ -8,8 +8,8 @@ GeneratorModule MakeKvolMathGa2() {
             {
                 {1, VectorsOne,
                  {"120", "Plane analytical geometry", "010", "3", "", "Vectors I",
-                  "Vector calculations: Scalar product, magnitude, angle, linear combination, parameters "
-                  "calculation, projection... (9 types)"}},
+                  "Vector calculations: Scalar product, magnitude, angle, linear combination, "
+                  "parameters calculation, projection... (9 types)"}},
                 {2, VectorsTwo,
                  {"120", "Plane analytical geometry", "020", "3", "", "Vectors II",
                   "Vectors, points, distances, parameters, line segments and midpoints calculations. (8 types)"}},

@@ -18,13 +18,13 @@ GeneratorModule MakeKvolMathGa3() {
                   "Calculate equations of lines in the space. (8 types)"}},
                 {4, AlignmentCoplanarityDistance,
                  {"130", "Space analytical geometry", "040", "3", "", "Alignment, coplanarity and distance of points",
-                  "Discuss coplanarity and alignment of points according to a parameter. Distance from a point to a "
-                  "plane study according to a parameter. (4 types)"}},
+                  "Discuss coplanarity and alignment of points according to a parameter. "
+                  "Distance from a point to a plane study according to a parameter. (4 types)"}},
                 {5, PlaneAndLineWithoutParameter,
                  {"130", "Space analytical geometry", "050", "3", "",
                   "Relative position of planes and lines (without parameter)",
-                  "Discuss relative position of planes and lines (without parameter): Intersect, parallel, lies. (3 "
-                  "types)"}},
+                  "Discuss relative position of planes and lines (without parameter): Intersect, parallel, lies. "
+                  "(3 types)"}},
                 {6, PlaneAndLineWithParameter,
                  {"130", "Space analytical geometry", "060", "3", "",
                   "Relative position of planes and lines (with parameter)",

@@ -8,8 +8,8 @@ GeneratorModule MakeKvolMathGde() {
             {
                 {1, PythagoreanTheorem,
                  {"105", "Basic geometry", "010", "3", "", "Pythagorean theorem",
-                  "Problems with Pythagorean theorem: Right triangles, isosceles triangles and rectangles. Catheti, "
-                  "hypotenuse, perimeter and area calculations (10 types)"}},
+                  "Problems with Pythagorean theorem: Right triangles, isosceles triangles and rectangles. "
+                  "Catheti, hypotenuse, perimeter and area calculations (10 types)"}},
                 {2, Similarity,
                  {"105", "Basic geometry", "020", "3", "", "Similarity",
                   "Problems of similarity of triangles (9 tipos)"}},
@@ -23,12 +23,12 @@ GeneratorModule MakeKvolMathGde() {
                   "radius (8 types)"}},
                 {5, SpatialShapesPlane,
                  {"105", "Basic geometry", "050", "3", "", "Spatial shapes (plane surfaces)",
-                  "Calculations of volume, surface area, altitude, edge, diagonal and slant height for cube, prism "
-                  "and pyramid (12 types)"}},
+                  "Calculations of volume, surface area, altitude, edge, diagonal and slant height for cube, "
+                  "prism and pyramid (12 types)"}},
                 {6, SpatialShapesCurved,
                  {"105", "Basic geometry", "060", "3", "", "Spatial shapes (curved surfaces)",
-                  "Calculations of volume, surface area, radius, altitude and slant height for sphere, cone and "
-                  "cylinder (9 types)"}},
+                  "Calculations of volume, surface area, radius, altitude and slant height for sphere, "
+                  "cone and cylinder (9 types)"}},
             },
             NotFoundWording::Spanish};
 }

@@ -20,18 +20,18 @@ GeneratorModule MakeKvolMathLfd() {
                   "Calculation of limits involving divisions and roots. (2 types)"}},
                 {27, LimitsInvolvingRationalFunctions,
                  {"140", "Limits", "010", "3", "", "Limits involving rational functions",
-                  "Calculation of limits involving rational functions (the ratio of two polynomial functions). (3 "
-                  "types)"}},
+                  "Calculation of limits involving rational functions (the ratio of two polynomial functions). "
+                  "(3 types)"}},
                 {29, TangentAndNormalLines,
                  {"150", "Functions and derivatives", "015", "2", "020",
                   "Tangent and normal lines to a curve at a point",
-                  "Calculate the tangent and normal lines to a curve at a point involving derivatives. (6 types of "
-                  "functions)"}},
+                  "Calculate the tangent and normal lines to a curve at a point involving derivatives. "
+                  "(6 types of functions)"}},
                 {32, FindingPolynomialFunctions,
                  {"150", "Functions and derivatives", "020", "3", "",
                   "Finding polynomial functions involving derivatives",
-                  "&DPFinding polynomial functions coefficients (quadratic and cubic) involving derivatives. (10 "
-                  "types)"}},
+                  "&DPFinding polynomial functions coefficients (quadratic and cubic) involving derivatives. "
+                  "(10 types)"}},
                 {33, MaximumsAndMinimums,
                  {"150", "Functions and derivatives", "035", "2", "021", "Maximums and minimums of a function",
                   "Calculation of maximums and minimums of a given function. (2 types of functions)"}},

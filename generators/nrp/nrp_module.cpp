@@ -73,8 +73,8 @@ GeneratorModule MakeKvolMathNrp() {
                 {20, DivisionOfPolynomialsInvolvingParameters,
                  {"060", "Polynomials and algebraic fractions", "020", "3", "",
                   "Division of polynomials involving parameters",
-                  "Problems of division of polynomials using parameters and the Polynomial remainder theorem (1 "
-                  "type)"}},
+                  "Problems of division of polynomials using parameters and the Polynomial remainder theorem "
+                  "(1 type)"}},
                 {21, LcmAndGcmOfNaturalNumbers,
                  {"010", "Natural numbers", "020", "2", "026", "LCM and GCD of natural numbers",
                   "Least common multiple and greatest common divisor of natural numbers (2 types)"}},
@@ -118,12 +118,12 @@ GeneratorModule MakeKvolMathNrp() {
                 {34, MultiplyingAndDividingComplexNumbers,
                  {"115", "Complex numbers", "020", "2", "027",
                   "Multiplying and dividing complex numbers in cartesian form",
-                  "Exercises to calculate multiplications and divisions of complex numbers in cartesian form (2 "
-                  "types)"}},
+                  "Exercises to calculate multiplications and divisions of complex numbers in cartesian form "
+                  "(2 types)"}},
                 {35, CartesianPolarConversions,
                  {"115", "Complex numbers", "030", "2", "027", "Cartesian-polar conversions",
-                  "Exercises to convert complex numbers from the cartesian form to the polar form and vice versa (2 "
-                  "types)"}},
+                  "Exercises to convert complex numbers from the cartesian form to the polar form and vice versa "
+                  "(2 types)"}},
                 {36, MultiplyingAndDividingComplexNumbersInPolarForm,
                  {"115", "Complex numbers", "040", "2", "027", "Multiplying and dividing complex numbers in polar form",
                   "Exercises to calculate multiplications and divisions of complex numbers in polar form (2 types)"}},

@@ -1,5 +1,5 @@
 #include "generators/alg/alg_routines.h"
-#include "generators/ga3/three_equation_systems.h"
+#include "generators/shared/three_equation_systems.h"
 
 // Routine 4: a system of three linear equations whose case (one solution, a line of
 // solutions, none) is fixed by the seed before the system is built.

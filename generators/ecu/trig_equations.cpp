@@ -3,7 +3,7 @@
 
 #include "generators/ecu/ecu_routines.h"
 #include "generators/item_drill.h"
-#include "generators/tri/trig_equation_templates.h"
+#include "generators/shared/trig_equation_templates.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"

@@ -1,5 +1,5 @@
 #include "generators/ga3/ga3_routines.h"
-#include "generators/ga3/three_equation_systems.h"
+#include "generators/shared/three_equation_systems.h"
 
 // Routine 5: a plane and a line (as two planes) that meet in a point, hold each other or
 // are parallel, by the seed.

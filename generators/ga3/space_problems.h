@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "generators/ga3/space_tools.h"
+#include "generators/shared/space_tools.h"
 
 // The records that the space geometry problems are written from; the tests check their
 // mathematics.

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "generators/int/int_routines.h"
-#include "generators/int/integral_list.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"

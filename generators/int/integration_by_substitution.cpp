@@ -3,6 +3,7 @@
 #include "generators/int/int_routines.h"
 #include "generators/int/integral_items.h"
 #include "generators/int/integral_list.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/number_markup.h"
 #include "mathservices/poly_markup.h"

@@ -1,8 +1,8 @@
 #include <cmath>
 #include <string>
 
-#include "generators/int/integral_list.h"
 #include "generators/lfd/lfd_routines.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"

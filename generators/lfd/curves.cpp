@@ -6,7 +6,7 @@
 #include "generators/item_drill.h"
 #include "generators/lfd/curve_items.h"
 #include "generators/lfd/lfd_routines.h"
-#include "generators/int/integral_list.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"

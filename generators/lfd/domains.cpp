@@ -3,8 +3,8 @@
 #include <string>
 
 #include "generators/item_drill.h"
-#include "generators/int/integral_list.h"
 #include "generators/lfd/lfd_routines.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/number_markup.h"
 #include "mathservices/poly_markup.h"

@@ -2,8 +2,8 @@
 #include <vector>
 
 #include "generators/item_drill.h"
+#include "generators/shared/trig_equation_templates.h"
 #include "generators/tri/tri_routines.h"
-#include "generators/tri/trig_equation_templates.h"
 #include "generators/tri/trig_identity_templates.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"

@@ -97,7 +97,7 @@ std::vector<ProblemRecord> ReadProblemLines(const std::string& lines, std::size_
 
 bool SplitProblemElement(const std::string& element, std::string& statement, std::string& solution) {
     const auto sol = element.find("#SOL(");
-    // Without "#SOL(" the old reading took the solution from the fifth character on.
+    // An element without "#SOL(" has its solution from the fifth character on.
     const std::size_t solutionStart = sol == std::string::npos ? 4 : sol + 5;
     if (solutionStart > element.size()) return false;
     std::string tail = element.substr(solutionStart);

@@ -7,8 +7,8 @@
 inline constexpr std::size_t kCatalogueLineWidth = 400;
 inline constexpr std::size_t kCatalogueCapacity = 1024;
 
-// Trims, pads and cuts the describe fields to their widths, as the router does after a
-// routine has described itself.
+// Trims, pads and cuts the describe fields to their widths, as the router does after
+// copying a routine's describe block.
 void NormaliseDescribeFields(GeneratorWorkspace& ws, int routineNumber);
 // The header line of the routine's topic (kind "5").
 std::string TopicHeaderLine(const GeneratorWorkspace& ws);

@@ -46,12 +46,12 @@ bool IsProblemCode(const std::string& code) {
 }
 
 void Describe(GeneratorWorkspace& ws, const DescribeBlock& block) {
-    ws.Subject = "Mathematics";
+    ws.Subject = block.subject;
     ws.TopicId = block.topicId;
     ws.TopicName = block.topicName;
     ws.SubtopicId = block.subtopicId;
     ws.Kind = block.kind;
-    if (block.maxAmount != nullptr && block.maxAmount[0] != '\0') ws.MaxAmount = block.maxAmount;
+    if (!block.maxAmount.empty()) ws.MaxAmount = block.maxAmount;
     ws.Title = block.title;
     ws.Description = block.description;
 }

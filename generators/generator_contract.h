@@ -51,22 +51,26 @@ struct GeneratorWorkspace : MathWorkspace {
     NumberTexts symbols;
 };
 
-// The literal describe block of one routine. An empty maxAmount leaves the field as the
-// previous routine left it: such routines read no item count.
+// The literal describe block of one routine: its catalogue data, kept in the module's
+// table beside the routine. An empty maxAmount leaves the field as the previous routine
+// left it: such routines read no item count. An empty subject keeps the routine out of
+// the catalogue.
 struct DescribeBlock {
-    const char* topicId;
-    const char* topicName;
-    const char* subtopicId;
-    const char* kind;
-    const char* maxAmount;
-    const char* title;
-    const char* description;
+    std::string topicId;
+    std::string topicName;
+    std::string subtopicId;
+    std::string kind;
+    std::string maxAmount;
+    std::string title;
+    std::string description;
+    std::string subject = "Mathematics";
 };
 
-// Copies a describe block into the workspace. The subject is always "Mathematics".
+// Copies a describe block into the workspace.
 void Describe(GeneratorWorkspace& ws, const DescribeBlock& block);
 
 // The type of a worded problem whose types form two levels of difficulty: the first half
 // for the percentages 0 to 50 of the group, the second half above 50. A group of one
-// takes any type by the seed. A group size of 0 divides by zero, as it always has.
+// takes any type by the seed. A group size of 0 divides by zero: the hub reports that
+// fault as the problem's text.
 int TwoLevelType(GeneratorWorkspace& ws, int typeCount);

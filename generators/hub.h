@@ -6,7 +6,7 @@
 #include "generators/module_router.h"
 
 // The hub of the generators: picks a module by its name, runs one generator, and reads
-// the catalogue from the describe branch of every routine. It owns the one workspace,
+// the catalogue from the describe blocks of every module's table. It owns the one workspace,
 // and so the random stream that creation of collections draws from too.
 class GeneratorHub {
 public:

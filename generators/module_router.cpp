@@ -5,27 +5,27 @@
 #include "generators/catalogue.h"
 #include "mathservices/utf8_text.h"
 
-GeneratorRoutine GeneratorModule::Find(int number) const {
+const RoutineEntry* GeneratorModule::Find(int number) const {
     for (const auto& entry : routines) {
-        if (entry.number == number) return entry.routine;
+        if (entry.number == number) return &entry;
     }
     return nullptr;
 }
 
 namespace {
 std::string NotFoundText(const GeneratorModule& module, const std::string& routineId) {
-    // The basic-geometry module has always answered in the other language.
+    // The basic-geometry module words this text in Spanish.
     if (module.notFoundWording == NotFoundWording::Spanish)
         return "<ERROR EN MODULO " + module.name + ". NO EXISTE RUTINA CON ID = " + routineId + ">&LF";
     return "<ERROR IN MODULE " + module.name + ":. THE ROUTINE ID = " + routineId + " IS NOT FOUND>&LF";
 }
 
-std::string Describe(GeneratorWorkspace& ws, const GeneratorModule& module) {
+std::string DescribeModule(GeneratorWorkspace& ws, const GeneratorModule& module) {
     std::string text;
     std::vector<std::string> headers;
     for (int number = 1; number <= module.greatestNumber; ++number) {
         ws.Subject.clear();
-        if (GeneratorRoutine routine = module.Find(number)) routine(ws);
+        if (const RoutineEntry* entry = module.Find(number)) Describe(ws, entry->describe);
         if (ws.Subject.empty()) continue;
         NormaliseDescribeFields(ws, number);
         const std::string header = TopicHeaderLine(ws);
@@ -44,7 +44,7 @@ std::string Describe(GeneratorWorkspace& ws, const GeneratorModule& module) {
 std::string RunRouter(GeneratorWorkspace& ws, const GeneratorModule& module, const std::string& code,
                       std::string& statement, std::string& solution, std::int16_t describeMode) {
     ws.DescribeMode = describeMode;
-    if (describeMode != 0) return Describe(ws, module);
+    if (describeMode != 0) return DescribeModule(ws, module);
     RunRoutine(ws, module, ReadProblemCode(code), code.substr(0, std::min<std::size_t>(3, code.size())), statement,
                solution);
     return "";
@@ -67,8 +67,8 @@ void RunRoutine(GeneratorWorkspace& ws, const GeneratorModule& module, const Pro
     ws.stream.SeedStream(ws.Seed);
     for (int i = 0; i < 4; ++i) ws.stream.Draw();
 
-    if (GeneratorRoutine routine = module.Find(fields.RoutineId)) {
-        routine(ws);
+    if (const RoutineEntry* entry = module.Find(fields.RoutineId)) {
+        entry->routine(ws);
     } else {
         ws.Statement = NotFoundText(module, ws.RoutineId);
         ws.Solution = "&LF";

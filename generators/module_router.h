@@ -5,13 +5,15 @@
 
 #include "generators/generator_contract.h"
 
-// A generator routine: reads DescribeMode first; in describe mode it fills the describe
-// fields and draws nothing, otherwise it writes Statement and Solution.
+// A generator routine: writes Statement and Solution from the request fields.
 using GeneratorRoutine = void (*)(GeneratorWorkspace&);
 
+// One routine of a module's table: its number, the routine, and its catalogue data,
+// which the describe loop reads without running the routine.
 struct RoutineEntry {
     int number;
     GeneratorRoutine routine;
+    DescribeBlock describe;
 };
 
 // One module of generators: its name, the greatest number its describe loop visits, and
@@ -25,7 +27,7 @@ struct GeneratorModule {
     std::vector<RoutineEntry> routines;
     NotFoundWording notFoundWording = NotFoundWording::English;
 
-    GeneratorRoutine Find(int number) const;
+    const RoutineEntry* Find(int number) const;
 };
 
 // The router every module has. In generate mode it seeds the stream from the code and

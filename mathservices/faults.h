@@ -3,8 +3,9 @@
 #include <string>
 
 // A fault inside a generator that the hub turns into the problem's error text. It is
-// thrown where the original program would have stopped with a run-time error or would
-// have looped for ever; the hub catches it, so it never stops a collection.
+// thrown where a routine meets a run-time error or passes a retry bound, which would
+// otherwise stop the program or loop for ever; the hub catches it, so it never stops a
+// collection.
 struct GeneratorFault : std::runtime_error {
     GeneratorFault(int number, const std::string& description)
         : std::runtime_error(description), number(number) {}

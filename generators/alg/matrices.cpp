@@ -62,11 +62,6 @@ MatrixEquationData BuildMatrixEquation(GeneratorWorkspace& ws) {
 // Routine 1: the matricial equation A·X + B = C (or X·A, or - B); X is drawn first and C
 // is computed, so the answer is whole.
 void MatrixEquation(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"100", "Algebra", "008", "3", "026", "Matricial equations: type AX+B=C",
-                      "Solving matricial equations type AX+B=C, where A, X, B and C are matrices. (4 types of size)"});
-        return;
-    }
     const MatrixEquationData e = BuildMatrixEquation(ws);
     ws.Statement = std::string("Solve the matricial equation  ") + (e.xFirst ? "&+IX\u00B7A" : "&+IA\u00B7X") +
                    (e.minus ? " - " : " + ") + "B" + " = C.&-I&LF " + "     Where   &+IA&-I = " + MatrixMarkup(e.A) +
@@ -101,11 +96,6 @@ MatrixSystemData BuildMatrixSystem(GeneratorWorkspace& ws, int size) {
 // Routine 2: a·X + b·Y = A, c·X + d·Y = B with scalar coefficients; X and Y are drawn
 // first. The two sizes, 2×2 and 3×3, alternate with the seed.
 void SystemOfMatrixEquations(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"100", "Algebra", "010", "3", "026", "Systems of 2\u00D72 matricial linear equations",
-                      "Problems about systems of 2\u00D72 matricial linear equations. (2 types of size)"});
-        return;
-    }
     const MatrixSystemData s = BuildMatrixSystem(ws, ws.Seed % 2 == 0 ? 2 : 3);
     auto equation = [](double p, double q, const std::string& right) {
         const std::string first = ScalarTerm(p, "X", true);
@@ -187,12 +177,6 @@ ParameterMatrixData BuildParameterMatrix(GeneratorWorkspace& ws) {
 // whole values: the null determinant, the invertible matrix, or both parts with the
 // inverse at a stated value, by the seed.
 void ParameterDeterminantAndInverse(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"100", "Algebra", "017", "3", "", "Determinant and inverse matrix with a parameter",
-                      "Calculation of parameter for which a determinant is null or a matrix has/hasn't inverse. "
-                      "(3 types)"});
-        return;
-    }
     const ParameterMatrixData p = BuildParameterMatrix(ws);
     TextMatrix t;
     for (int r = 0; r < 3; ++r) {

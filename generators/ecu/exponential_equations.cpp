@@ -133,22 +133,12 @@ RootsItem LogarithmicItem(GeneratorWorkspace& ws) {
 
 // Routine 10.
 void ExponentialEquations(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"070", "Equations", "025", "2", "026", "Exponential equations",
-                      "Exercises about exponential equations. (4 types)"});
-        return;
-    }
     EquationDrill(ws, ExponentialItem, 26, kStatementColumns2, kSolutionColumns2,
                   {"Solve the following exponential equations:&LF", "Solve these exponential equations:&LF"});
 }
 
 // Routine 13.
 void LogarithmicEquations(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"070", "Equations", "030", "2", "026", "Logarithmic equations",
-                      "Exercises about logarithmic equations. (3 types)"});
-        return;
-    }
     EquationDrill(ws, LogarithmicItem, 26, kStatementColumns2, kSolutionColumns2,
                   {"Solve the following logarithmic equations:&LF", "Solve these logarithmic equations:&LF"});
 }

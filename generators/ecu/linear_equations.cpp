@@ -177,11 +177,6 @@ void LinearDrill(GeneratorWorkspace& ws, bool rational, bool inequation, int max
 
 // Routine 1.
 void LinearEquationsInteger(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"070", "Equations", "005", "2", "026", "Linear equations with integer coefficients",
-                      "Exercises about linear equations with integer coefficients (3 types)"});
-        return;
-    }
     LinearDrill(ws, false, false, 26, kStatementColumns3, kSolutionColumns3);
     // This drill's answers follow the letter without the usual blank.
     ws.Solution = ReplaceAll(ws.Solution, ")&-B &+I x &-I", ")&-B&+I x &-I");
@@ -189,30 +184,15 @@ void LinearEquationsInteger(GeneratorWorkspace& ws) {
 
 // Routine 8.
 void LinearInequationsInteger(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"080", "Inequations", "007", "2", "026", "Linear inequations with integer coefficients",
-                      "Exercises about linear inequations with integer coefficients (3 types)"});
-        return;
-    }
     LinearDrill(ws, false, true, 26, kStatementColumns3, kSolutionColumns3);
 }
 
 // Routine 6.
 void LinearEquationsRational(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"070", "Equations", "007", "2", "024", "Linear equations with rational coefficients",
-                      "Exercises about linear equations with rational coefficients and parentheses (3 types)"});
-        return;
-    }
     LinearDrill(ws, true, false, 24, kStatementColumns2, kSolutionColumns2);
 }
 
 // Routine 7.
 void LinearInequationsRational(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"080", "Inequations", "009", "2", "026", "Linear inequations with rational coefficients",
-                      "Exercises about linear inequations with rational coefficients and parentheses (3 types)"});
-        return;
-    }
     LinearDrill(ws, true, true, 26, kStatementColumns2, kSolutionColumns2);
 }

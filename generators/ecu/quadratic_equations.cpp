@@ -243,11 +243,6 @@ RootsItem RootEquationItem(GeneratorWorkspace& ws) {
 
 // Routine 11.
 void IncompleteQuadraticEquations(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"070", "Equations", "014", "2", "026", "Incomplete quadratic equations",
-                      "Exercises about incomplete quadratic equations ax\u00B2+bx+c=0 where b=0 or c=0. (4 types)"});
-        return;
-    }
     EquationDrill(ws, IncompleteQuadraticItem, 26, kStatementColumns3, kSolutionColumns2,
                   {"Solve the following incomplete quadratic equations:&LF",
                    "Solve these incomplete quadratic equations:&LF"});
@@ -255,11 +250,6 @@ void IncompleteQuadraticEquations(GeneratorWorkspace& ws) {
 
 // Routine 2.
 void CompleteQuadraticEquations(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"070", "Equations", "015", "2", "026", "Complete quadratic equations",
-                      "Exercises about complete quadratic equations ax\u00B2+bx+c=0. (3 types)"});
-        return;
-    }
     EquationDrill(ws, CompleteQuadraticItem, 26, kStatementColumns3, kSolutionColumns2,
                   {"Solve the following quadratic equations:&LF",
                    "Find all real solutions of the following quadratic equations:&LF",
@@ -268,22 +258,12 @@ void CompleteQuadraticEquations(GeneratorWorkspace& ws) {
 
 // Routine 12.
 void BiquadraticEquations(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"070", "Equations", "017", "2", "026", "Biquadratic equations",
-                      "Exercises about biquadratic equations. (3 types)"});
-        return;
-    }
     EquationDrill(ws, BiquadraticItem, 26, kStatementColumns2, kSolutionColumns2,
                   {"Solve the following biquadratic equations:&LF", "Solve these biquadratic equations:&LF"});
 }
 
 // Routine 3.
 void EquationsInvolvingRoots(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"070", "Equations", "020", "2", "026", "Equations involving roots",
-                      "Exercises about equations involving roots. (1 type)"});
-        return;
-    }
     EquationDrill(ws, RootEquationItem, 26, kStatementColumns2, kSolutionColumns2,
                   {"Solve the following equations:&LF", "Find all real solutions of the following equations:&LF",
                    "Solve these equations:&LF", "Find all real solutions of these equations:&LF"});

@@ -139,11 +139,6 @@ SystemItem NonlinearSystemItem(GeneratorWorkspace& ws) {
 
 // Routine 4.
 void LinearSystems2(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"090", "Systems of equations", "001", "2", "026", "Systems of 2\u00D72 linear equations",
-                      "Exercises about systems of 2\u00D72 linear equations. (1 type)"});
-        return;
-    }
     EquationDrill(ws, LinearSystem2Item, 26, {"&SP=5:", "&SP=35:", "&SP=65:"}, {"&SP=10:", "&SP=38:", "&SP=66:"},
                   {"Solve the following systems of  2\u00D72  linear equations:&LF",
                    "Solve these systems of  2\u00D72  linear equations:&LF"});
@@ -153,11 +148,6 @@ void LinearSystems2(GeneratorWorkspace& ws) {
 
 // Routine 5.
 void LinearSystems3(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"090", "Systems of equations", "010", "2", "026", "Systems of 3\u00D73 linear equations",
-                      "Exercises about systems of 3\u00D73 linear equations. (1 type)"});
-        return;
-    }
     EquationDrill(ws, LinearSystem3Item, 26, kStatementColumns2, kSolutionColumns2,
                   {"Solve the following systems of  3\u00D73  linear equations:&LF",
                    "Solve these systems of  3\u00D73  linear equations:&LF"});
@@ -165,13 +155,6 @@ void LinearSystems3(GeneratorWorkspace& ws) {
 
 // Routine 9.
 void NonlinearSystems(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"090", "Systems of equations", "021", "2", "021",
-                      "Systems of 2\u00D72 equations (linear and quadratic)",
-                      "Exercises about nonlinear systems of 2\u00D72 equations (linear and quadratic) with integer "
-                      "coefficients. (1 type)"});
-        return;
-    }
     EquationDrill(ws, NonlinearSystemItem, 21, kStatementColumns2, kSolutionColumns2,
                   {"Solve the following nonlinear systems of  2\u00D72  equations:&LF",
                    "Solve these nonlinear systems of  2\u00D72  equations:&LF"});

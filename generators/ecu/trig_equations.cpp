@@ -3,7 +3,7 @@
 
 #include "generators/ecu/ecu_routines.h"
 #include "generators/item_drill.h"
-#include "generators/tri/trig_equation_templates.h"
+#include "generators/shared/trig_equation_templates.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
@@ -11,11 +11,6 @@
 // Routine 14: equations drawn from the shared table of trigonometric equations, two to a
 // row. This list writes the square of the unknown with a plain blank.
 void TrigonometricEquations(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"070", "Equations", "035", "2", "026", "Trigonometric equations",
-                      "Trigonometric equations. (138 types)"});
-        return;
-    }
     const int n = DrillItemCount(ws);
     // The interval's bounds carry the degree sign, as the answers do (not the ordinal sign).
     ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& "

@@ -25,12 +25,6 @@ std::string LineThrough(MathWorkspace& ws, double px, double py, double dx, doub
 // the circle through three points; the circle on a diameter; two circles meeting; points
 // inside and outside; the tangent at a point.
 void Circle(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"120", "Plane analytical geometry", "100", "3", "", "Conics I: Circle",
-                      "Calculation of circle equation, center, radius, line-circle and circle-circle intersections, "
-                      "parameters... (9 types)"});
-        return;
-    }
     const int type = ws.Seed % 9;
     const double ax = RandomInRange(ws, -9, 9, 1, 0);
     const double ay = RandomInRange(ws, -9, 9, 1, 0);

@@ -52,12 +52,6 @@ std::string FociText(MathWorkspace& ws, double h, double k, double c, double ux,
 // 1, 3, 5: the equation from the foci and the semimajor axis, a vertex or the
 // eccentricity; 7, 8: the equation and foci from the centre and two vertices.
 void Ellipse(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"120", "Plane analytical geometry", "120", "3", "", "Conics II: Ellipse",
-                      "Ellipse calculations: Equations, foci, vertices, semimajor/semiminor axis, eccentricity (9 "
-                      "types)"});
-        return;
-    }
     const int type = ws.Seed % 9;
     double b = 0, c = 0, a = 0;
     PlaneTriple(ws, type == 4 || type == 6 ? 20 : 30, b, c, a);
@@ -119,12 +113,6 @@ void Ellipse(GeneratorWorkspace& ws) {
 // asymptotes, 2 and 4 five; the others ask the equation from foci, vertices,
 // eccentricity or asymptotes.
 void Hyperbola(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"120", "Plane analytical geometry", "140", "3", "", "Conics III: Hyperbola",
-                      "Hyperbola calculations: Equations, foci, vertices, semi-axis, eccentricity, asymptotes. (9 "
-                      "types)"});
-        return;
-    }
     const int type = ws.Seed % 9;
     double a = 0, b = 0, c = 0;
     PlaneTriple(ws, type == 4 || type == 6 ? 20 : 30, a, b, c);
@@ -188,11 +176,6 @@ void Hyperbola(GeneratorWorkspace& ws) {
 // 4, 6: the equation in four forms, asking focus, vertex, directrix; 1, 3, 5: the
 // equation from focus and directrix, vertex and directrix, focus and vertex.
 void Parabola(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"120", "Plane analytical geometry", "160", "3", "", "Conics IV: Parabola",
-                      "Parabola calculations: Equations, focus, vertex, directrix. (7 types)"});
-        return;
-    }
     const int type = ws.Seed % 7;
     const double h = RandomInRange(ws, -9, 9, 1, 1);
     const double k = RandomInRange(ws, -9, 9, 1, 1);

@@ -102,11 +102,6 @@ Vec2 Shortened(GeneratorWorkspace& ws, Vec2 d) {
 // two points; distance from a point; medians and barycentre; altitude and its length;
 // distance between parallel lines; angle between two lines.
 void LinesOne(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"120", "Plane analytical geometry", "030", "3", "", "Lines I",
-                      "Problems involving lines, points and distances. (11 types)"});
-        return;
-    }
     const int type = ws.Seed % 11;
     Vec2 a, b, c;
     switch (type) {
@@ -252,11 +247,6 @@ void LinesOne(GeneratorWorkspace& ws) {
 // lines through a point; the point of a line equidistant from two points; intersection
 // and angle; the constant of a line at a given distance.
 void LinesTwo(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"120", "Plane analytical geometry", "040", "3", "", "Lines II",
-                      "Find relative position of two lines according to the values of a parameter (9 types)"});
-        return;
-    }
     const std::string letter = DrawParameterLetter(ws);
     const int type = ws.Seed % 9;
     switch (type) {

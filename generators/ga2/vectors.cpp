@@ -35,12 +35,6 @@ const std::string kW = "#VEC(&+Iw&-I#VEC)";
 // an orthogonal vector of given magnitude; perpendicular vectors of a multiple of the
 // magnitude; the vector orthogonal to one with a given dot product with another.
 void VectorsOne(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"120", "Plane analytical geometry", "010", "3", "", "Vectors I",
-                      "Vector calculations: Scalar product, magnitude, angle, linear combination, parameters "
-                      "calculation, projection... (9 types)"});
-        return;
-    }
     const std::string letter = DrawParameterLetter(ws);
     const int type = ws.Seed % 9;
     switch (type) {
@@ -187,11 +181,6 @@ void VectorsOne(GeneratorWorkspace& ws) {
 // end from the midpoint; vector and distance; aligned or not; the other vertices of a
 // square; the area of a right triangle; the parameter for a given distance.
 void VectorsTwo(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"120", "Plane analytical geometry", "020", "3", "", "Vectors II",
-                      "Vectors, points, distances, parameters, line segments and midpoints calculations. (8 types)"});
-        return;
-    }
     const std::string letter = DrawParameterLetter(ws);
     const int type = ws.Seed % 8;
     auto point = [&](double low, double high, double& x, double& y) {

@@ -112,11 +112,6 @@ PlaneProblem BuildPlaneProblem(GeneratorWorkspace& ws, int type) {
 // Routine 2: the equation of a plane from points, vectors, lines and planes; the types
 // grow harder through a group.
 void PlaneCalculations(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"130", "Space analytical geometry", "020", "3", "", "Plane calculations",
-                      "&DPCalculate equations of planes in the space. (13 types)"});
-        return;
-    }
     const int type = ProgressiveType(ws, 13);
     const PlaneProblem q = BuildPlaneProblem(ws, type);
     std::string lines[2];
@@ -237,11 +232,6 @@ LineProblem BuildLineProblem(GeneratorWorkspace& ws, int type) {
 // Routine 3: the symmetric form of a line from points, vectors, lines and planes; the
 // types grow harder through a group.
 void LineCalculations(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"130", "Space analytical geometry", "030", "3", "", "Line calculations",
-                      "Calculate equations of lines in the space. (8 types)"});
-        return;
-    }
     const int type = ProgressiveType(ws, 8);
     const LineProblem q = BuildLineProblem(ws, type);
     std::string lines[2];

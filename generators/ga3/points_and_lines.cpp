@@ -90,12 +90,6 @@ PointsProblem BuildPointsProblem(GeneratorWorkspace& ws, int type) {
 // Routine 4: a parameter in one co-ordinate of the last point; coplanar or aligned points,
 // or a point at a given distance from a plane, by the seed.
 void AlignmentCoplanarityDistance(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"130", "Space analytical geometry", "040", "3", "", "Alignment, coplanarity and distance of points",
-                      "Discuss coplanarity and alignment of points according to a parameter. Distance from a point "
-                      "to a plane study according to a parameter. (4 types)"});
-        return;
-    }
     const int type = ws.Seed % 4;
     const PointsProblem p = BuildPointsProblem(ws, type);
     const auto texts = LetterAt(p.column, p.letter);
@@ -172,12 +166,6 @@ TwoLines BuildTwoLines(GeneratorWorkspace& ws, int kind) {
 
 // Routine 7: two lines built in the relative position that the seed names.
 void TwoLinesWithoutParameter(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"130", "Space analytical geometry", "070", "3", "",
-                      "Relative position of two lines (without parameters)",
-                      "Discuss relative position of two lines in the space (without parameters). (4 types)"});
-        return;
-    }
     const int kind = ws.Seed % 4;
     const TwoLines t = BuildTwoLines(ws, kind);
     const LineForm f1 = DrawLineForm(ws, 3);
@@ -238,11 +226,6 @@ TwoLinesWithLetter BuildTwoLinesWithLetter(GeneratorWorkspace& ws, int kind) {
 
 // Routine 8: the second line carries a letter; the position changes at one value of it.
 void TwoLinesWithParameter(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"130", "Space analytical geometry", "080", "3", "", "Relative position of two lines (with parameters)",
-                      "Discuss relative position of two lines in the space according to a parameter. (3 types)"});
-        return;
-    }
     // The remainder picks the wording; the kind that has a meeting point at the critical
     // value goes with the wording that asks for it.
     const int remainder = ws.Seed % 3;

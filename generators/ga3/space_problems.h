@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "generators/ga3/space_tools.h"
+#include "generators/shared/space_tools.h"
 
 // The records that the space geometry problems are written from; the tests check their
 // mathematics.
@@ -64,7 +64,8 @@ struct VectorsProblem {
 VectorsProblem BuildVectorsProblem(GeneratorWorkspace& ws, int type);
 
 // The type of a progressive routine (planes: 13 types, lines: 8) from the group size and
-// the place in the group; a group size of 0 divides by zero, as it always has.
+// the place in the group; a group size of 0 divides by zero, a fault that the hub reports
+// as the problem's text.
 int ProgressiveType(GeneratorWorkspace& ws, int typeCount);
 
 // Routine 2: the plane that the statement describes, and the data of the statement.

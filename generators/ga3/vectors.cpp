@@ -152,12 +152,6 @@ VectorsProblem BuildVectorsProblem(GeneratorWorkspace& ws, int type) {
 
 // Routine 1: twelve kinds of vector calculations, by the seed.
 void SpaceVectors(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"130", "Space analytical geometry", "010", "3", "", "Vectors",
-                      "Vectors calculations: Scalar product, vector product, magnitud, angle, linear combination, "
-                      "parameters calculation... (12 types)"});
-        return;
-    }
     const int type = ws.Seed % 12;
     const VectorsProblem p = BuildVectorsProblem(ws, type);
     const std::string& h = p.h;

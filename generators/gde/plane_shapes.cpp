@@ -206,12 +206,6 @@ GeometryProblem BuildStraightShapeProblem(GeneratorWorkspace& ws) {
 // Routine 3: squares, rhombi, regular polygons, triangles, trapezoids, rectangles and
 // rhomboids.
 void PlaneShapesStraight(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"105", "Basic geometry", "030", "3", "", "Plane shapes (straight line segments)",
-                      "Calculations with squares, rhombus, polygons, triangles, trapezoids, rectangles... Area, "
-                      "perimeter, altitude... (18 types)"});
-        return;
-    }
     WriteGeometryProblem(ws, BuildStraightShapeProblem(ws), {"&SP=75:", "&SP=75:", false});
 }
 
@@ -309,11 +303,5 @@ GeometryProblem BuildCurvedShapeProblem(GeneratorWorkspace& ws) {
 // Routine 4: circles, circular sectors and trapezoids, annuli. Its single answer keeps
 // the letter "a)".
 void PlaneShapesCurved(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"105", "Basic geometry", "040", "3", "", "Plane shapes (curved line segments)",
-                      "Calculations with circle, circular sector, annulus, circular trapezoid... area, perimeter, "
-                      "radius (8 types)"});
-        return;
-    }
     WriteGeometryProblem(ws, BuildCurvedShapeProblem(ws), {"&SP=75:", "&SP=75:", true});
 }

@@ -123,11 +123,5 @@ GeometryProblem BuildPythagoreanProblem(GeneratorWorkspace& ws) {
 // Routine 1: right triangles, rectangles and isosceles triangles by the Pythagorean
 // theorem.
 void PythagoreanTheorem(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"105", "Basic geometry", "010", "3", "", "Pythagorean theorem",
-                      "Problems with Pythagorean theorem: Right triangles, isosceles triangles and rectangles. "
-                      "Catheti, hypotenuse, perimeter and area calculations (10 types)"});
-        return;
-    }
     WriteGeometryProblem(ws, BuildPythagoreanProblem(ws), {"&SP=66:", "&SP=69:", false});
 }

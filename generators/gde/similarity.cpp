@@ -110,9 +110,5 @@ GeometryProblem BuildSimilarityProblem(GeneratorWorkspace& ws) {
 
 // Routine 2: similar triangles, in the Thales figure and side by side.
 void Similarity(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"105", "Basic geometry", "020", "3", "", "Similarity", "Problems of similarity of triangles (9 tipos)"});
-        return;
-    }
     WriteGeometryProblem(ws, BuildSimilarityProblem(ws), {"&SP=66:", "&SP=69:", false});
 }

@@ -157,12 +157,6 @@ GeometryProblem BuildPlaneSolidProblem(GeneratorWorkspace& ws) {
 
 // Routine 5: cubes, prisms and square pyramids.
 void SpatialShapesPlane(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"105", "Basic geometry", "050", "3", "", "Spatial shapes (plane surfaces)",
-                      "Calculations of volume, surface area, altitude, edge, diagonal and slant height for cube, "
-                      "prism and pyramid (12 types)"});
-        return;
-    }
     WriteGeometryProblem(ws, BuildPlaneSolidProblem(ws), {"&SP=75:", "&SP=75:", false});
 }
 
@@ -255,11 +249,5 @@ GeometryProblem BuildCurvedSolidProblem(GeneratorWorkspace& ws) {
 
 // Routine 6: cylinders, cones and spheres.
 void SpatialShapesCurved(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"105", "Basic geometry", "060", "3", "", "Spatial shapes (curved surfaces)",
-                      "Calculations of volume, surface area, radius, altitude and slant height for sphere, cone "
-                      "and cylinder (9 types)"});
-        return;
-    }
     WriteGeometryProblem(ws, BuildCurvedSolidProblem(ws), {"&SP=75:", "&SP=75:", false});
 }

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "generators/int/int_routines.h"
-#include "generators/int/integral_list.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
@@ -231,17 +231,12 @@ OneFunctionArea HyperbolaArea(GeneratorWorkspace& ws) {
 // Routine 3: the area between one curve and the X axis, in three bands of difficulty
 // through the group.
 void AreaInvolvingOneFunction(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"170", "Definite integrals", "005", "3", "", "Area calculation involving one function",
-                      "&DPArea calculation involving one function using definite integrals. (8 types)"});
-        return;
-    }
     const double g = ws.GroupSize, i = ws.GroupIndex;
     int type;
     if (g == 1) {
         type = static_cast<int>(RandomInRange(ws, 1, 8, 1, 1));
     } else {
-        // A group size of 0 divides by zero here, as it always has.
+        // A group size of 0 divides by zero here; the hub reports it as the problem's text.
         const double p = Int(100 * i / g);
         const int index = static_cast<int>(i);
         if (p <= 33) {
@@ -296,13 +291,6 @@ const char* const kParameterLetters = "ahkmnpqrw";
 // Routine 4: the area between a parabola and a line or a hyperbola and its chord, or a
 // parameter found from a given area; the type by the seed.
 void AreaInvolvingTwoFunctions(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"170", "Definite integrals", "015", "3", "",
-                      "Area calculation involving two functions and/or parameters",
-                      "Area calculation involving two functions and/or a parameter using definite integrals. "
-                      "(4 types)"});
-        return;
-    }
     const int type = ws.Seed % 4;
     if (type == 0) {
         // The crossing points first; the parabola is the line plus k(x - x1)(x - x2).

@@ -188,11 +188,6 @@ int NextByPartsRow(GeneratorWorkspace& ws, int previous) {
 // Routine 5: products of a power, an exponential, a trigonometric function, a logarithm
 // or an inverse function, by parts; 23 templates.
 void IntegrationByParts(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"160", "Indefinite integrals", "030", "2", "026", "Integration by parts",
-                      "Exercises to solve indefinite integrals using 'integration by parts' method. (23 types)"});
-        return;
-    }
     IntegralList list(ws, 2, kIntegralStatementColumns);
     int previous = 0;
     for (int i = 1; i <= list.Count(); ++i) {

@@ -3,6 +3,7 @@
 #include "generators/int/int_routines.h"
 #include "generators/int/integral_items.h"
 #include "generators/int/integral_list.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/number_markup.h"
 #include "mathservices/poly_markup.h"
@@ -180,11 +181,6 @@ IntegralItem MakeSubstitutionItem(GeneratorWorkspace& ws, int row) {
 // Routine 6: integrals that a substitution or a direct rule solves; 35 templates walked
 // in turn from a drawn first one.
 void IntegrationBySubstitution(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"160", "Indefinite integrals", "027", "2", "026", "Integration by substitution or direct methods",
-                      "Exercises to solve indefinite integrals using substitution or direct methods. (32 types)"});
-        return;
-    }
     IntegralList list(ws, 2, kIntegralStatementColumns);
     int row = 0;
     for (int i = 1; i <= list.Count(); ++i) {

@@ -4,6 +4,7 @@
 
 #include "generators/int/int_routines.h"
 #include "generators/int/integral_list.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
@@ -123,12 +124,6 @@ RationalIntegral MakeQuadraticDenominatorIntegral(GeneratorWorkspace& ws) {
 
 // Routine 1: quotients whose denominators split into linear factors, by partial fractions.
 void IntegralsOfRationalFunctionsI(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"160", "Indefinite integrals", "015", "2", "026", "Integrals of rational functions (I)",
-                      "Integrals of rational functions, by decomposing the rational function into a sum of small "
-                      "rational functions) (2 types)"});
-        return;
-    }
     IntegralList list(ws, 1, kRationalStatementColumns);
     for (int i = 1; i <= list.Count(); ++i) {
         AddNewItem(list, [&] { return MakePartialFractionIntegral(ws, i % 3); });
@@ -138,12 +133,6 @@ void IntegralsOfRationalFunctionsI(GeneratorWorkspace& ws) {
 
 // Routine 2: quadratic denominators without real roots give a logarithm and an arctangent.
 void IntegralsOfRationalFunctionsII(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"160", "Indefinite integrals", "020", "2", "026", "Integrals of rational functions (II)",
-                      "Integrals of rational functions (with a quadratic denominator that cannot be factorised) "
-                      "(1 type)"});
-        return;
-    }
     IntegralList list(ws, 1, kRationalStatementColumns);
     for (int i = 1; i <= list.Count(); ++i) {
         AddNewItem(list, [&] { return MakeQuadraticDenominatorIntegral(ws); });

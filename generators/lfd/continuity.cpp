@@ -1,8 +1,8 @@
 #include <cmath>
 #include <string>
 
-#include "generators/int/integral_list.h"
 #include "generators/lfd/lfd_routines.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
@@ -60,11 +60,6 @@ std::string Braced(const std::string& rows) { return "&+If&-I (&+Ix&-I) = #NES({
 // Routine 68: a function in pieces around a point; continuous, or with a removable, a
 // jump or an essential discontinuity there. The form of the pieces by the seed.
 void ContinuityOfAFunction(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"150", "Functions and derivatives", "040", "3", "", "Continuity of a function",
-                      "Study the continuity of a function at a point. (5 types of functions, 17 cases)"});
-        return;
-    }
     const int form = ws.Seed % 5;
     const int verdict = static_cast<int>(RandomInRange(ws, 1, 4, 1, 1));
     const double x0 = RandomInRange(ws, -3, 5, 1, 0);
@@ -120,12 +115,6 @@ std::string SmoothPiece(double lead, bool exponential, double x0, double v, doub
 // pieces by the seed: lines, a parabola and a line, a line and a parabola, two
 // parabolas, an exponential and a line.
 void DerivabilityOfAFunction(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"150", "Functions and derivatives", "050", "3", "", "Derivability of a function",
-                      "Study the continuity and derivability of a function at a point. (5 types of functions, 15 "
-                      "cases)"});
-        return;
-    }
     const int form = ws.Seed % 5;
     const int verdict = static_cast<int>(RandomInRange(ws, 1, 3, 1, 1));
     const double x0 = RandomInRange(ws, -4, 4, 1, 0);

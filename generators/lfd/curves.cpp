@@ -6,7 +6,7 @@
 #include "generators/item_drill.h"
 #include "generators/lfd/curve_items.h"
 #include "generators/lfd/lfd_routines.h"
-#include "generators/int/integral_list.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
@@ -155,13 +155,6 @@ CurveItem MakeExtremaItem(GeneratorWorkspace& ws, int type) {
 
 // Routine 29: tangent and normal lines at a point of six kinds of curve.
 void TangentAndNormalLines(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"150", "Functions and derivatives", "015", "2", "020",
-                      "Tangent and normal lines to a curve at a point",
-                      "Calculate the tangent and normal lines to a curve at a point involving derivatives. "
-                      "(6 types of functions)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns2, kSolutionColumns1, 20);
     int type = static_cast<int>(RandomInRange(ws, 1, kTangentTypes, 1, 1));
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -173,11 +166,6 @@ void TangentAndNormalLines(GeneratorWorkspace& ws) {
 
 // Routine 33: maximums and minimums of cubics and biquadratic quartics.
 void MaximumsAndMinimums(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"150", "Functions and derivatives", "035", "2", "021", "Maximums and minimums of a function",
-                      "Calculation of maximums and minimums of a given function. (2 types of functions)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns2, kSolutionColumns1, 21);
     for (int i = 1; i <= drill.Count(); ++i) {
         AddNewItem(drill, [&] {

@@ -379,20 +379,10 @@ void DerivativeDrill(GeneratorWorkspace& ws, DerivativeItem (*make)(GeneratorWor
 
 // Routine 1: derivatives of the easy forms.
 void DerivativeOfFunctionsI(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"150", "Functions and derivatives", "012", "2", "020", "Derivative of functions (I)",
-                      "Exercises to find the derivative of a function. Easy level (19 types)"});
-        return;
-    }
     DerivativeDrill(ws, MakeEasyDerivative);
 }
 
 // Routine 2: derivatives of the harder forms.
 void DerivativeOfFunctionsII(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"150", "Functions and derivatives", "013", "2", "020", "Derivative of functions (II)",
-                      "Exercises to find the derivative of a function. More difficult level  (19 types)"});
-        return;
-    }
     DerivativeDrill(ws, MakeHardDerivative);
 }

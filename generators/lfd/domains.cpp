@@ -3,8 +3,8 @@
 #include <string>
 
 #include "generators/item_drill.h"
-#include "generators/int/integral_list.h"
 #include "generators/lfd/lfd_routines.h"
+#include "generators/shared/sum_terms.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/number_markup.h"
 #include "mathservices/poly_markup.h"
@@ -117,11 +117,6 @@ DomainItem MakeDomainItem(GeneratorWorkspace& ws, int type) {
 // Routine 67: the domain of sixteen forms of function; the form counter runs round and
 // a coin draws it anew.
 void DomainOfAFunction(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"150", "Functions and derivatives", "010", "2", "020", "Domain of a function",
-                      "Exercises to calculate the domain of a function. (16 types of functions)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns2, kSolutionColumns2, 20);
     int type = static_cast<int>(RandomInRange(ws, 1, kDomainTypes, 1, 1));
     for (int i = 1; i <= drill.Count(); ++i) {

@@ -48,12 +48,6 @@ std::string Answer(const std::string& value) { return "&SP=10:" + value + "&LF";
 // two quadratics at the point a; type 2: a quotient at infinity, of equal or different
 // degrees; type 3: a cubic over a quadratic with a common factor at the point.
 void LimitsInvolvingRationalFunctions(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"140", "Limits", "010", "3", "", "Limits involving rational functions",
-                      "Calculation of limits involving rational functions (the ratio of two polynomial functions). "
-                      "(3 types)"});
-        return;
-    }
     const int remainder = static_cast<int>(ws.GroupIndex) % 3;
     const int type = remainder == 0 ? 3 : remainder;
     std::string body, point, value;
@@ -121,11 +115,6 @@ void LimitsInvolvingRationalFunctions(GeneratorWorkspace& ws) {
 // Routine 26: a root minus a number over a polynomial, or the reverse, at the point
 // where both vanish; the conjugate removes the common factor.
 void LimitsInvolvingRoots(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"140", "Limits", "020", "3", "", "Limits involving roots",
-                      "Calculation of limits involving divisions and roots. (2 types)"});
-        return;
-    }
     const int type = ws.Seed % 2;
     std::string body, value;
     double a = 0;
@@ -169,11 +158,6 @@ void LimitsInvolvingRoots(GeneratorWorkspace& ws) {
 // Routine 77: a difference of two square roots at infinity, or of a root and a linear
 // term; the conjugate leaves the quotient of the linear coefficients.
 void LimitsInvolvingSubtractionOfRoots(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"140", "Limits", "030", "3", "", "Limits involving subtraction of roots",
-                      "Calculation of limits involving subtraction of roots. (1 type)"});
-        return;
-    }
     std::string body, value;
     RetryBound bound;
     while (true) {
@@ -211,11 +195,6 @@ void LimitsInvolvingSubtractionOfRoots(GeneratorWorkspace& ws) {
 // Routine 25: a power whose base tends to 1 and whose exponent grows: the limit is
 // e to the limit of (base - 1)·exponent.
 void LimitsOfPowersInvolvingE(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"140", "Limits", "040", "3", "", "Limits of powers involving the number e",
-                      "Calculation of limits of powers involving the number e. (3 types)"});
-        return;
-    }
     const int type = ws.Seed % 3;
     std::string base, exponent;
     double num = 0, den = 1;

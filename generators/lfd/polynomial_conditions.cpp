@@ -99,13 +99,6 @@ double Determinant(const std::vector<Condition>& conditions, int unknowns) {
 //  4 tangent line at x1, the Y cut               9 slope at x1, inflection at x2, a point, the Y cut
 //  5 extremum at x0, slope at x1, the Y cut     10 extremum with its value, inflection at x2, the Y cut
 void FindingPolynomialFunctions(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"150", "Functions and derivatives", "020", "3", "",
-                      "Finding polynomial functions involving derivatives",
-                      "&DPFinding polynomial functions coefficients (quadratic and cubic) involving derivatives. "
-                      "(10 types)"});
-        return;
-    }
     const int type = TwoLevelType(ws, 10) + 1;
     const bool cubic = type > 5;
     Coefficients c{};

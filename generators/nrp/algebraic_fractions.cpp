@@ -152,12 +152,6 @@ void NextType(GeneratorWorkspace& ws, double& type, int count) {
 //   5  k(x-p)(x-q) / m(x-p), expanded                    ->  k(x-q)/m
 //   6  (x² - p²) / (x+p)(x-q), expanded                  ->  (x-p)/(x-q)
 void SimplifyingAlgebraicFractions(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"060", "Polynomials and algebraic fractions", "030", "2", "026",
-                      "Algebraic fractions I: Simplifying algebraic fractions",
-                      "Exercises to simplify algebraic fractions (6 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kFractionSolutionColumns);
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -204,12 +198,6 @@ struct FractionPair {
 //   9  (x²-p²)/k(x-q) : (x+p)/m(x-q)                     ->  m(x-p)/k
 //  10  (x-p)(x-q)/(x-p)(x-s) · (x-s)/(x-t)               ->  (x-q)/(x-t)
 void AlgebraicFractionsProducts(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"060", "Polynomials and algebraic fractions", "035", "2", "026",
-                      "Algebraic fractions II: Simplifying algebraic fractions",
-                      "Exercises to simplify algebraic fractions involving multiplications and divisions. (10 types)"});
-        return;
-    }
     ItemDrill drill(ws, kWideFractionColumns, kFractionSolutionColumns);
     double type = RandomInRange(ws, 1, 10, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -287,12 +275,6 @@ std::vector<double> Without(std::vector<double> all, const std::vector<double>& 
 //   5  (x+c)/(x-p) - (x+d)/(x-q)
 //   6  a/x ± b/(x-p)
 void AlgebraicFractionsSums(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"060", "Polynomials and algebraic fractions", "040", "2", "026",
-                      "Algebraic fractions III: Simplifying algebraic fractions",
-                      "Exercises to simplify algebraic fractions involving additions and subtractions (6 types)"});
-        return;
-    }
     ItemDrill drill(ws, kWideFractionColumns, kFractionSolutionColumns);
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {

@@ -67,52 +67,26 @@ std::string AngleItemText(const AngleItem& item, int operation) {
 
 // Routine 27.
 void AddingAngleMeasures(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"045", "Angle calculations", "010", "2", "027", "Adding angle measures",
-                      "Exercises to calculate additions with angle measures (1 type)"});
-        return;
-    }
     AngleDrill(ws, 1);
 }
 
 // Routine 28.
 void SubtractingAngleMeasures(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"045", "Angle calculations", "020", "2", "027", "Subtracting angle measures",
-                      "Exercises to calculate subtractions with angle measures (1 type)"});
-        return;
-    }
     AngleDrill(ws, 2);
 }
 
 // Routine 29.
 void MultiplyingAngleMeasures(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"045", "Angle calculations", "030", "2", "027", "Multiplying angle measures",
-                      "Exercises to calculate multiplications with angle measures (1 type)"});
-        return;
-    }
     AngleDrill(ws, 3);
 }
 
 // Routine 30.
 void DividingAngleMeasures(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"045", "Angle calculations", "040", "2", "027", "Dividing angle measures",
-                      "Exercises to calculate divisions with angle measures (1 type)"});
-        return;
-    }
     AngleDrill(ws, 4);
 }
 
 // Routine 31: the complement (to 90°) and the supplement (to 180°) of an angle.
 void ComplementaryAndSupplementaryAngles(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"045", "Angle calculations", "050", "2", "027",
-                      "Complementary and supplementary angle calculation",
-                      "Exercises to calculate the complementary and supplementary angles of a given angle (1 type)"});
-        return;
-    }
     const ColumnMarks statementColumns = {"&SP=5:", "&SP=29:", "&SP=53:", "&SP=76:"};
     const ColumnMarks solutionColumns = {"&SP=10:", "&SP=39:", "&SP=68:"};
     ItemDrill drill(ws, statementColumns, solutionColumns, 27, kUprightItems);
@@ -171,12 +145,6 @@ ShapeAngles MakeShapeAngles(GeneratorWorkspace& ws, int shape) {
 
 // Routine 32: the missing angle of a figure, from the sum that its angles make.
 void AnglesInTrianglesAndShapes(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"045", "Angle calculations", "060", "3", "027",
-                      "Angle calculation in triangles and other shapes",
-                      "Problems to calculate angles in triangles, right triangles and other shapes (5 types)"});
-        return;
-    }
     struct Figure {
         const char* lead;
         const char* picture;

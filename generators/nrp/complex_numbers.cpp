@@ -88,11 +88,6 @@ Complex DrawComplex(GeneratorWorkspace& ws, double low, double high) {
 // Routine 33: sums and differences of two complex numbers in cartesian form; most parts
 // are whole, some are fractions.
 void AddingAndSubtractingComplexNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"115", "Complex numbers", "010", "2", "027", "Adding and subtracting complex numbers",
-                      "Exercises to calculate additions and subtractions of complex numbers in cartesian form (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27, kComplexItems);
     for (int i = 1; i <= drill.Count(); ++i) {
         const bool fractions = Coin(ws, 0.7f);
@@ -124,12 +119,6 @@ void AddingAndSubtractingComplexNumbers(GeneratorWorkspace& ws) {
 // Routine 34: products, and quotients as a stacked fraction; about four quotients in ten
 // are made from a whole quotient, the others come out in fractions.
 void MultiplyingAndDividingComplexNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"115", "Complex numbers", "020", "2", "027",
-                      "Multiplying and dividing complex numbers in cartesian form",
-                      "Exercises to calculate multiplications and divisions of complex numbers in cartesian form (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns2, kComplexSolutionColumns4, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -186,11 +175,6 @@ std::string ExactPartText(GeneratorWorkspace& ws, double modulus, const ExactVal
 // cartesian (a modulus with an angle of the table of 30° and 45°, so that the parts are
 // exact).
 void CartesianPolarConversions(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"115", "Complex numbers", "030", "2", "027", "Cartesian-polar conversions",
-                      "Exercises to convert complex numbers from the cartesian form to the polar form and vice versa (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27, kComplexItems);
     double direction = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -226,12 +210,6 @@ void CartesianPolarConversions(GeneratorWorkspace& ws) {
 // Routine 36: products and quotients of complex numbers in polar form; a quotient is
 // made from a whole quotient. The answer in both forms.
 void MultiplyingAndDividingComplexNumbersInPolarForm(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"115", "Complex numbers", "040", "2", "027",
-                      "Multiplying and dividing complex numbers in polar form",
-                      "Exercises to calculate multiplications and divisions of complex numbers in polar form (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns2, kSolutionColumns2, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -256,11 +234,6 @@ void MultiplyingAndDividingComplexNumbersInPolarForm(GeneratorWorkspace& ws) {
 // Routine 37: a power 2 to 5 of a complex number given in cartesian or polar form; the
 // answer in both forms.
 void PowersOfComplexNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"115", "Complex numbers", "050", "2", "027", "Powers of complex numbers",
-                      "Exercises of powers of complex numbers in cartesian and polar forms (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns2, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -291,11 +264,6 @@ void PowersOfComplexNumbers(GeneratorWorkspace& ws) {
 // Routine 38: the n-th roots (n from 2 to 5) of a complex number given in cartesian or
 // polar form, each root in polar form with the argument in degrees.
 void RootsOfComplexNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"115", "Complex numbers", "060", "2", "027", "Root extraction of complex numbers",
-                      "Exercises to calculate roots of complex numbers (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns1, 27, kComplexItems);
     double kind = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -372,11 +340,6 @@ ComplexParameterProblem MakeComplexParameterProblem(GeneratorWorkspace& ws, int 
 // Routine 39: the value of a parameter for which a product or a quotient of two complex
 // numbers is real or pure imaginary.
 void ComplexNumberParameter(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"115", "Complex numbers", "070", "3", "027", "Calculation of a parameter",
-                      "Calculation of a parameter to give the required result of a complex numbers operation. (5 types)"});
-        return;
-    }
     const int type = ws.Seed % 5;
     const ComplexParameterProblem p = MakeComplexParameterProblem(ws, type);
     const std::string letter = "&+I" + p.letter + "&-I";

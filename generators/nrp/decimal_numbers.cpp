@@ -18,11 +18,6 @@ bool HasDecimals(double x) { return !IsWhole(x); }
 // Routine 14: sums and differences of decimals with up to three decimal places; the
 // operations alternate as in the natural-number drill.
 void AdditionAndSubtractionOfDecimalNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"030", "Decimal numbers", "001", "2", "026", "Addition and subtraction of decimal numbers",
-                      "Exercises to practice addition and subtraction of decimal numbers (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -57,11 +52,6 @@ void AdditionAndSubtractionOfDecimalNumbers(GeneratorWorkspace& ws) {
 
 // Routine 15: products of two decimals of four digits with up to three decimal places.
 void MultiplicationOfDecimalNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"030", "Decimal numbers", "002", "2", "026", "Multiplication of decimal numbers",
-                      "Exercises to practice multiplication of decimal numbers (1 type)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     for (int i = 1; i <= drill.Count(); ++i) {
         AddNewItem(drill, [&] {
@@ -85,11 +75,6 @@ void MultiplicationOfDecimalNumbers(GeneratorWorkspace& ws) {
 // Routine 2: quotients of decimals that end: the dividend is made from divisor and
 // quotient.
 void DivisionOfDecimalNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"030", "Decimal numbers", "003", "2", "026", "Division of decimal numbers",
-                      "Exercises to practice division of decimal numbers (1 type)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     for (int i = 1; i <= drill.Count(); ++i) {
         AddNewItem(drill, [&] {

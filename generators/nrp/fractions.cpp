@@ -50,11 +50,6 @@ std::string Factor(GeneratorWorkspace& ws, Ratio x) {
 // Routine 8: sums and differences of fractions. The type goes by the seed: two fractions
 // (even seeds) or three (odd seeds).
 void AdditionAndSubtractionOfFractions(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"040", "Rational numbers", "005", "2", "026", "Addition and subtraction of fractions",
-                      "Exercises about addition and subtraction of fractions. (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, {"&SP=10:", "&SP=29:", "&SP=53:", "&SP=76:"});
     const int terms = ws.Seed % 2 == 0 ? 2 : 3;
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -83,12 +78,6 @@ void AdditionAndSubtractionOfFractions(GeneratorWorkspace& ws) {
 //   1  a × b        2  a : b        3  a × b ± c        4  a : b ± c
 //   5  a × ( b ± c )                6  a : ( b ± c )    7  a × b ± c : d
 void FourOperationsWithFractions(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"040", "Rational numbers", "010", "2", "026",
-                      "Addition, subtraction, multiplication and division with fractions",
-                      "Exercises of fractions: addition, subtraction, multiplication and division. (7 types)"});
-        return;
-    }
     ItemDrill drill(ws, {"&SP=5:", "&SP=35:", "&SP=65:"}, {"&SP=10:", "&SP=27:", "&SP=44:", "&SP=61:", "&SP=78:"});
     double form = RandomInRange(ws, 1, 7, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -222,12 +211,6 @@ DecimalToFractionItem DrawDecimalToFraction(GeneratorWorkspace& ws, int shape) {
 // Routine 22: decimals to fractions, in three shapes that go round with the items: an
 // ending decimal, a purely repeating one and a mixed repeating one.
 void ConvertingDecimalNumbersToFractions(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"040", "Rational numbers", "015", "2", "026", "Converting decimal numbers to fractions",
-                      "Exercises to convert exact decimal numbers or repeating decimal numbers to fractions. "
-                      "(3 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     double shape = RandomInRange(ws, 1, 3, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {

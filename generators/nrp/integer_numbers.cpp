@@ -27,11 +27,6 @@ double NextForm(double form, double formCount) {
 //   4  [-] ( a ± b ) ± c     5  [-] [ a ± ( b ± c ) ]
 // where [-] is the third sign, written only when it is a minus.
 void AdditionAndSubtractionOfIntegerNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"020", "Integer numbers", "001", "2", "026", "Addition and subtraction of integer numbers",
-                      "Exercises about addition and subtraction of integer numbers. (5 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     double form = RandomInRange(ws, 1, 5, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -81,12 +76,6 @@ void AdditionAndSubtractionOfIntegerNumbers(GeneratorWorkspace& ws) {
 //   7  a × b ± c × e         8  D : d ± a × b           9  a × [ b ± c × e ]
 //   10 D : [ b ± c × e ]
 void MultiplicationAndDivisionOfIntegerNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"020", "Integer numbers", "005", "2", "026", "Multiplication and division of integer numbers",
-                      "Exercises of integer numbers: addition, subtraction, multiplication, division and "
-                      "parentheses. (10 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     double form = RandomInRange(ws, 1, 10, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {

@@ -9,11 +9,6 @@
 // Routine 12: rows of additions and subtractions of natural numbers of three to six
 // digits; the operations alternate, with a small chance of a repeat.
 void AdditionAndSubtractionOfNaturalNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"010", "Natural numbers", "001", "2", "026", "Addition and subtraction of natural numbers",
-                      "Exercises to practice addition and subtraction of natural numbers. (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -37,11 +32,6 @@ void AdditionAndSubtractionOfNaturalNumbers(GeneratorWorkspace& ws) {
 
 // Routine 13: products of a number of three to five digits by one of two to four digits.
 void MultiplicationOfNaturalNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"010", "Natural numbers", "002", "2", "026", "Multiplication of natural numbers",
-                      "Exercises to practice multiplication of natural numbers (1 type)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns3);
     for (int i = 1; i <= drill.Count(); ++i) {
         AddNewItem(drill, [&] {
@@ -63,11 +53,6 @@ void MultiplicationOfNaturalNumbers(GeneratorWorkspace& ws) {
 // Routine 1: long division of a number of four to six digits by one of two or three
 // digits, with quotient and remainder.
 void DivisionOfNaturalNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"010", "Natural numbers", "003", "2", "026", "Division of natural numbers",
-                      "Exercises to practice division of natural numbers (1 type)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns3);
     for (int i = 1; i <= drill.Count(); ++i) {
         AddNewItem(drill, [&] {
@@ -142,11 +127,6 @@ LcmGcmItem DrawLcmGcmNumbers(GeneratorWorkspace& ws, int count) {
 // 2, 3, 5 and 7 so that they share factors. The texts say "greatest common divisor" and
 // "LCM and GCD", as English school books do (not "gcm").
 void LcmAndGcmOfNaturalNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"010", "Natural numbers", "020", "2", "026", "LCM and GCD of natural numbers",
-                      "Least common multiple and greatest common divisor of natural numbers (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns4, kSolutionColumns4);
     for (int i = 1; i <= drill.Count(); ++i) {
         // Both coins are always drawn: three numbers one time in twenty.

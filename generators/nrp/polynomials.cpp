@@ -42,12 +42,6 @@ PolynomialSumItem MakePolynomialSumItem(GeneratorWorkspace& ws, double operation
 // Routine 16: sums and differences of two polynomials of degree up to 4; the operations
 // alternate as in the natural-number drill.
 void AdditionAndSubtractionOfPolynomials(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"060", "Polynomials and algebraic fractions", "001", "2", "026",
-                      "Addition and subtraction of polynomials",
-                      "Exercises to practice addition and subtraction of polynomials (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, {"&SP=5:"}, {"&SP=10:", "&SP=50:"});
     double operation = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -108,12 +102,6 @@ BinomialProductItem MakeBinomialProductItem(GeneratorWorkspace& ws, int form) {
 
 // Routine 17: products of binomials and powers of a binomial, expanded.
 void MultiplicationAndPowerOfBinomials(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"060", "Polynomials and algebraic fractions", "002", "2", "026",
-                      "Multiplication and power of binomials",
-                      "Exercises to practice multiplication and power of binomials (4 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns3, kSolutionColumns2);
     double form = RandomInRange(ws, 1, 4, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -168,11 +156,6 @@ std::string FactoredText(const FactoringItem& item) {
 // Routine 18: polynomials with whole roots, built from their roots, to be factorized by
 // Ruffini's rule.
 void FactoringPolynomials(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"060", "Polynomials and algebraic fractions", "010", "2", "026", "Factoring polynomials",
-                      "Exercises to factorize polynomials (Ruffini's rule)."});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns1, kSolutionColumns1);
     const double form = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -220,12 +203,6 @@ DivisionItem MakeDivisionItem(GeneratorWorkspace& ws, int type) {
 // Routine 19: quotient and remainder of a division of polynomials; the two types
 // alternate from a drawn start.
 void DivisionOfPolynomials(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"060", "Polynomials and algebraic fractions", "015", "2", "026", "Division of polynomials",
-                      "Exercises to practice division of polynomials: Polynomial long division and Synthetic "
-                      "division (division through Ruffini's rule). (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kStatementColumns1, kSolutionColumns2);
     double type = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -277,13 +254,6 @@ ParameterDivisionItem MakeParameterDivisionItem(GeneratorWorkspace& ws) {
 // Routine 20: the value of a parameter for which a division by x - a is exact or leaves
 // a given remainder (the remainder theorem).
 void DivisionOfPolynomialsInvolvingParameters(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"060", "Polynomials and algebraic fractions", "020", "3", "",
-                      "Division of polynomials involving parameters",
-                      "Problems of division of polynomials using parameters and the Polynomial remainder theorem "
-                      "(1 type)"});
-        return;
-    }
     const ParameterDivisionItem item = MakeParameterDivisionItem(ws);
     const std::string letter = "&+I" + item.letter + "&-I";
     const bool calculate = Coin(ws, 0.4f);

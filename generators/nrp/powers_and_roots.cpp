@@ -92,11 +92,6 @@ SquareRootSumItem DrawSquareRootSum(GeneratorWorkspace& ws, int terms) {
 // Routine 25: sums of two to four square roots that all reduce to one root of a prime,
 // by the form 1 to 3 of the item.
 void AdditionAndSubtractionOfSquareRoots(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"050", "Powers and roots", "025", "2", "026", "Addition and subtraction of square roots",
-                      "Exercises to calculate addition and subtraction of square roots (3 types)"});
-        return;
-    }
     ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double form = RandomInRange(ws, 1, 3, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -181,11 +176,6 @@ SingleRootItem DrawSingleRoot(GeneratorWorkspace& ws, int type) {
 // Routine 5: products, quotients, roots and powers of roots of a prime, simplified into
 // a single root.
 void SimplifyingNthRoots(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"050", "Powers and roots", "035", "2", "026", "Simplifying n-th roots",
-                      "Exercises to simplify n-th roots (6 types)"});
-        return;
-    }
     ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -230,11 +220,6 @@ SinglePowerItem DrawNaturalSinglePower(GeneratorWorkspace& ws, int type) {
 
 // Routine 6: products, quotients and powers of powers of a prime, into a single power.
 void SimplifyingPowersOfNaturalNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"050", "Powers and roots", "012", "2", "026", "Simplifying powers of natural numbers",
-                      "Exercises to simplify powers of natural numbers (7 types)"});
-        return;
-    }
     ItemDrill drill(ws, kPowerStatementColumns4,
                     {"&SP=10:", "&SP=20:", "&SP=30:", "&SP=40:", "&SP=50:", "&SP=60:", "&SP=70:", "&SP=80:"}, 26,
                     kPowerItems);
@@ -300,11 +285,6 @@ RationalPowerItem DrawRationalSinglePower(GeneratorWorkspace& ws, int type) {
 // Routine 7: products, quotients and powers of powers of a fraction of two primes, into
 // a single power with a positive exponent. At most twelve items: they are wide.
 void SimplifyingPowersOfRationalNumbers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"050", "Powers and roots", "014", "2", "012", "Simplifying powers of rational numbers",
-                      "Exercises to simplify powers of rational numbers (7 types)"});
-        return;
-    }
     ItemDrill drill(ws, {"&SP=5:", "&SP=37:", "&SP=69:"},
                     {"&SP=10:", "&SP=24:", "&SP=38:", "&SP=52:", "&SP=66:", "&SP=80:"}, 12, kPowerItems);
     double type = RandomInRange(ws, 1, 7, 1, 1);

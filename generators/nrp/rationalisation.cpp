@@ -86,11 +86,6 @@ ItemTexts DrawSquareRootRationalisation(GeneratorWorkspace& ws, int type) {
 // Routine 23: rationalising denominators with square roots, in six types that go round
 // and now and then jump.
 void RationalizationWithSquareRoots(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"050", "Powers and roots", "018", "2", "026", "Rationalization I: (square roots)",
-                      "Exercises to rationalize expressions involving square roots (5 types)"});
-        return;
-    }
     ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double type = RandomInRange(ws, 1, 6, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {
@@ -139,11 +134,6 @@ ItemTexts DrawNthRootRationalisation(GeneratorWorkspace& ws, int type) {
 // Routine 24: rationalising denominators with an n-th root, the radicand written as a
 // power (type 1) or as a number (type 2).
 void RationalizationWithNthRoots(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"050", "Powers and roots", "020", "2", "026", "Rationalization II: (with n-th roots)",
-                      "Exercises to rationalize expressions involving n-th roots (2 types)"});
-        return;
-    }
     ItemDrill drill(ws, kPowerStatementColumns4, kPowerSolutionColumns4, 26, kPowerItems);
     double type = RandomInRange(ws, 1, 2, 1, 1);
     for (int i = 1; i <= drill.Count(); ++i) {

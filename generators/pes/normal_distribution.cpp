@@ -25,11 +25,6 @@ std::string Law(double mean, double deviation) {
 // the law's over the root of the sample size. Limits are the mean plus or minus a
 // multiple of the deviation, so that the standardised limits are short decimals.
 void NormalDistribution(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"180", "Statistic and probability", "050", "3", "", "Normal distribution",
-                      "&DPProbability calculations using the Gauss' Normal distribution. (7 types)"});
-        return;
-    }
     const double groupSize = ws.GroupSize;
     const double percentage = std::floor(100 * ws.GroupIndex / groupSize);
     int type = percentage <= 66 ? 1 + ws.Seed % 4 : 5 + ws.Seed % 3;

@@ -63,12 +63,6 @@ double DrawValue(GeneratorWorkspace& ws, double low, double high, double grid, b
 // covariance (population), correlation, least-squares line of y on x, and an estimate.
 // Type = Seed mod 4: abstract pairs, people, trees, birds.
 void LinearRegression(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"180", "Statistic and probability", "020", "3", "",
-                      "Two variable statistic: Linear regression analysis",
-                      "Linear regression analysis using the Least Squares Method. (4 types)"});
-        return;
-    }
     const int n = static_cast<int>(RandomInRange(ws, 4, 6, 1, 1));
     const int type = ws.Seed % 4;
     const RegressionRow& row = kRows[type];

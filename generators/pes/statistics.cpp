@@ -52,13 +52,6 @@ double InterpolatedPoint(const std::vector<double>& lows, const std::vector<doub
 // Routine 1: a table of values in arithmetic series (rising or falling) with distinct
 // frequencies; mean, median, mode, standard deviation (population) and a bar chart.
 void UngroupedDataStatistics(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"180", "Statistic and probability", "010", "3", "",
-                      "Single variable statistic for ungrouped data",
-                      "Calculation of mean, median, mode, standard deviation, histogram and bar charts for one "
-                      "variable statistic with ungrouped data. (1 type, 3 sizes)"});
-        return;
-    }
     const int n = static_cast<int>(RandomInRange(ws, 4, 6, 1, 1));
     // The chart's own draw: how far apart the bars stand, in percent of the width.
     const double barStep = RandomInRange(ws, 4, 6, 1, 1);
@@ -120,13 +113,6 @@ void UngroupedDataStatistics(GeneratorWorkspace& ws) {
 // median, mode, standard deviation, and either the percentage of data below a point or a
 // percentile or quartile; a histogram.
 void GroupedDataStatistics(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"180", "Statistic and probability", "012", "3", "",
-                      "Single variable statistic for grouped data",
-                      "Calculation of mean, median, mode, standard deviation, quartiles, percentiles and histogram "
-                      "chart for one variable statistic with grouped data. (2 types)"});
-        return;
-    }
     const int n = static_cast<int>(RandomInRange(ws, 4, 6, 1, 1));
     const double width = RandomInRange(ws, 5, 20, 1, 1);
     const double start = RandomInRange(ws, 0, 90, 5, 0);

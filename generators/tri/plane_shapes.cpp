@@ -186,11 +186,6 @@ std::string Answer(GeneratorWorkspace& ws, double value, int unit) {
 
 // Routine 6: a figure, its data, and three questions a), b), c). Type by the seed.
 void SolvingPlaneShapes(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"110", "Trigonometry", "060", "3", "027", "Solving plane shapes.",
-                      "Solving plane shapes. Triangle, rhombus, parallelogram and trapezoid. (11 types)"});
-        return;
-    }
     const int type = ws.Seed % 11;
     const ShapeRecord r = MakeShape(ws, type);
     const auto& g = r.given;

@@ -84,11 +84,6 @@ RelatedAnglesRecord MakeRelatedAngles(GeneratorWorkspace& ws, int type) {
 // Routine 2: the sine and cosine of one or two angles given; the sine or cosine of
 // related angles asked, from those values only. Type by the seed.
 void TrigValuesFromTwoOthers(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"110", "Trigonometry", "020", "3", "027", "Trigonometric values from two other known",
-                      "Calculation of trigonometric values from two other known (5 types)"});
-        return;
-    }
     const int type = ws.Seed % 5;
     const RelatedAnglesRecord rec = MakeRelatedAngles(ws, type);
     std::string given = Given(ws, rec.a, rec.sinA, rec.cosA);

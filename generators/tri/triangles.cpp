@@ -85,12 +85,6 @@ std::string Degrees(GeneratorWorkspace& ws, double x) { return NumberToMarkup(Ro
 
 // Routine 5: a triangle from three of its parts; the letters are shuffled. Type by the seed.
 void SolvingTriangles(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"110", "Trigonometry", "050", "3", "027", "Solving triangles",
-                      "Solving triangles: Finding missing sides and/or angles given some information about a "
-                      "triangle. (4 types)"});
-        return;
-    }
     const int type = ws.Seed % 4;
     const TriangleRecord t = MakeTriangle(ws, type);
     const auto& V = t.vertexNames;

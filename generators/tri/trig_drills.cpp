@@ -2,8 +2,8 @@
 #include <vector>
 
 #include "generators/item_drill.h"
+#include "generators/shared/trig_equation_templates.h"
 #include "generators/tri/tri_routines.h"
-#include "generators/tri/trig_equation_templates.h"
 #include "generators/tri/trig_identity_templates.h"
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
@@ -49,11 +49,6 @@ const ColumnMarks kIdentityColumn = {"&SP=1:"};
 
 // Routine 3: identities to prove, two to a line; no proof is given.
 void TrigonometricIdentities(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"110", "Trigonometry", "030", "2", "024", "Trigonometric identities",
-                      "Exercises for making proofs of trigonometric identities (34 types)."});
-        return;
-    }
     const int n = DrillItemCount(ws);
     ws.Statement = Coin(ws, 0.5f) ? "&-I&-BProve the following trigonometric identities.&LF"
                                   : "&-I&-BGive a proof of the following trigonometric identities.&LF";
@@ -72,11 +67,6 @@ void TrigonometricIdentities(GeneratorWorkspace& ws) {
 
 // Routine 4: equations whose solutions in [0°, 360°) come from the shared table.
 void TrigonometricEquationsList(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"110", "Trigonometry", "040", "2", "026", "Trigonometric equations",
-                      "Exercises to solve trigonometric equations. (138 types)"});
-        return;
-    }
     const int n = DrillItemCount(ws);
     ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0\u00B0& "
                    ",& 360\u00B0).&LF";

@@ -1,17 +1,5 @@
-#include "generators/tri/trig_equation_templates.h"
 #include "generators/tri/trig_identity_templates.h"
 #include "mathservices/number_markup.h"
-
-std::string ExpandTrigEquation(const std::string& shorthand, const std::string& squareWith) {
-    std::string text = ReplaceAll(shorthand, "^2@", squareWith);
-    text = ReplaceAll(text, "2@", " 2&+Ix&-I ");
-    text = ReplaceAll(text, "3@", " 3&+Ix&-I ");
-    text = ReplaceAll(text, "@", " &+Ix&-I ");
-    text = ReplaceAll(text, "\u00BA", "\u00B0");
-    text = ReplaceAll(text, "S", "sin");
-    text = ReplaceAll(text, "C", "cos");
-    return ReplaceAll(text, "T", "tan");
-}
 
 std::string ExpandTrigIdentity(const std::string& shorthand, const std::string& letter, const std::string& angleA,
                                const std::string& angleB) {

@@ -79,11 +79,6 @@ TrigValuesRecord MakeTrigValues(GeneratorWorkspace& ws, int type) {
 // Routine 1: one trigonometric value and the sign of another; the other five asked.
 // Type by the seed: sin, cos or tan given.
 void TrigValuesFromAnother(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"110", "Trigonometry", "010", "3", "026", "Trigonometric values from another one",
-                      "Calculate trigonometric values when we know another one. (3 types)"});
-        return;
-    }
     const int type = ws.Seed % 3;
     const TrigValuesRecord rec = MakeTrigValues(ws, type);
     constexpr const char* kAsked[3] = {

@@ -81,33 +81,27 @@ std::string Fields(GeneratorWorkspace& ws) {
 
 // Routine 1: writes its code fields back, with a solution.
 void EchoRoutine(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"020", "Test topic", "001", "2", "010", "Echo", "Writes its fields"});
-        return;
-    }
     ws.Statement = "Echo " + Fields(ws) + "&LF";
     ws.Solution = "Answer " + std::to_string(ws.stream.Draw()) + "&LF";
 }
 
 // Routine 2: a problem without solution.
 void SilentRoutine(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"020", "Test topic", "002", "3", "", "Silent", "No solution"});
-        return;
-    }
     ws.Statement = "Silent " + Fields(ws);
     ws.Solution = "";
 }
 
 // Routine 3: a theory item in a topic of its own.
 void TheoryRoutine(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"030", "Theory topic", "001", "4", "", "Theory", "Read this"});
-        return;
-    }
     ws.Statement = "Theory";
     ws.Solution = "Theory answer";
 }
 } // namespace
 
-GeneratorModule TestModule() { return {"KVOL_TEST", 3, {{1, EchoRoutine}, {2, SilentRoutine}, {3, TheoryRoutine}}}; }
+GeneratorModule TestModule() {
+    return {"KVOL_TEST",
+            3,
+            {{1, EchoRoutine, {"020", "Test topic", "001", "2", "010", "Echo", "Writes its fields"}},
+             {2, SilentRoutine, {"020", "Test topic", "002", "3", "", "Silent", "No solution"}},
+             {3, TheoryRoutine, {"030", "Theory topic", "001", "4", "", "Theory", "Read this"}}}};
+}

@@ -317,18 +317,13 @@ TEST(TopicTree, OtherSubjectGivesOnlyTheRoot) {
 }
 
 namespace {
-void ManyRoutine(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        Describe(ws, {"040", "Crowded topic", "001", "1", "", "Many", "One of many"});
-        return;
-    }
-    ws.Statement = "x";
-}
+void ManyRoutine(GeneratorWorkspace& ws) { ws.Statement = "x"; }
 } // namespace
 
 TEST(TopicTree, MoreThan256NodesIsRefusedKeepingWhatFits) {
     GeneratorModule crowded{"KVOL_CROWD", 300, {}};
-    for (int i = 1; i <= 300; ++i) crowded.routines.push_back({i, ManyRoutine});
+    for (int i = 1; i <= 300; ++i)
+        crowded.routines.push_back({i, ManyRoutine, {"040", "Crowded topic", "001", "1", "", "Many", "One of many"}});
     TestBench bench(GeneratorHub({crowded}));
     EXPECT_FALSE(LoadTOLISTBOX_BUILT_CODE(bench.app, "Mathematics", true, false, false, false));
     EXPECT_EQ(bench.app.TopicTree.size(), static_cast<std::size_t>(kMaxTopicNodes));

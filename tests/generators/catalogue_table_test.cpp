@@ -406,27 +406,28 @@ TEST(CatalogueTable, EveryRoutineRunsAndDescribesItself) {
 }
 
 TEST(CatalogueTable, DescribingDrawsNothingAndADashLeavesTheItemCountAlone) {
-    // Each routine, run in describe mode, fills only its catalogue fields: no text, no draw
-    // from the stream, and without an item count of its own the caller's stays.
+    // Each routine's describe block fills only its catalogue fields, and without an item
+    // count of its own the caller's stays; describing a whole module writes no text and
+    // draws nothing from the stream.
     GeneratorHub hub;
     for (const auto& module : hub.Modules()) {
         for (const auto& entry : module.routines) {
             const CatalogueRow* row = FindRow(module.name, entry.number);
             ASSERT_NE(row, nullptr) << module.name << " " << entry.number;
             GeneratorWorkspace ws;
-            ws.DescribeMode = -1;
             ws.MaxAmount = "inherited";
-            ws.stream.SeedStream(5);
-            const auto stateBefore = ws.stream.State();
-            const GeneratorRoutine routine = module.Find(entry.number);
-            ASSERT_NE(routine, nullptr);
-            routine(ws);
-            EXPECT_EQ(ws.stream.State(), stateBefore) << row->title;
+            Describe(ws, entry.describe);
             EXPECT_EQ(ws.Subject, "Mathematics") << row->title;
             EXPECT_EQ(ws.MaxAmount, row->maxAmount[0] ? row->maxAmount : "inherited") << row->title;
-            EXPECT_TRUE(ws.Statement.empty()) << row->title;
-            EXPECT_TRUE(ws.Solution.empty()) << row->title;
         }
+        GeneratorWorkspace ws;
+        ws.stream.SeedStream(5);
+        const auto stateBefore = ws.stream.State();
+        std::string statement, solution;
+        RunRouter(ws, module, "", statement, solution, -1);
+        EXPECT_EQ(ws.stream.State(), stateBefore) << module.name;
+        EXPECT_TRUE(ws.Statement.empty() && statement.empty()) << module.name;
+        EXPECT_TRUE(ws.Solution.empty() && solution.empty()) << module.name;
     }
 }
 

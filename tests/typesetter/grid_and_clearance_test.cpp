@@ -83,7 +83,7 @@ TEST_F(Grid, RightAlignedColumnsEndTogether) {
 }
 
 TEST_F(Grid, RowsWithoutCellSeparatorsStayOneColumn) {
-    // The old form, entries parted by spaces: a single centred column.
+    // A row without "&|", entries parted by spaces: a single centred column.
     Draw("#RWS(C#RW1(a#RW1)#RW2(bbb#RW2)#RWS)");
     const auto bs = All("b");
     ASSERT_EQ(bs.size(), 3u);

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <string>
 
-#include "generators/ga3/space_tools.h"
 #include "generators/generator_contract.h"
+#include "generators/shared/space_tools.h"
 
 // A workspace whose stream stands where the router leaves it before a routine.
 inline void SeedWorkspace(GeneratorWorkspace& ws, int seed) {

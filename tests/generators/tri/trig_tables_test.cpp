@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "generators/tri/trig_equation_templates.h"
+#include "generators/shared/trig_equation_templates.h"
 #include "generators/tri/trig_identity_templates.h"
 
 // The tables are checked as mathematics: each equation's short-hand is evaluated in

@@ -41,66 +41,48 @@ void Echo(GeneratorWorkspace& ws, const char* what) {
     ws.Solution = "Answer&LF";
 }
 
-void Sums(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) return Describe(ws, {"010", "Numbers", "001", "1", "020", "Sums", "&DPAdd numbers in steps"});
-    Echo(ws, "Sums");
-}
-void Products(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) return Describe(ws, {"010", "Numbers", "002", "2", "012", "Products", "Multiply numbers"});
-    Echo(ws, "Products");
-}
-void Areas(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) return Describe(ws, {"020", "Shapes", "001", "3", "000", "Areas", "Find the area"});
-    Echo(ws, "Areas");
-}
-void ShapeTheory(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) return Describe(ws, {"020", "Shapes", "002", "4", "", "Theory of shapes", "Read"});
-    Echo(ws, "Theory");
-}
-void OnlyTheory(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) return Describe(ws, {"030", "Only theory", "001", "4", "", "Definitions", "Read"});
-    Echo(ws, "Definitions");
-}
-template <int N>
-void Many(GeneratorWorkspace& ws) {
-    if (ws.DescribeMode) {
-        static const std::string title = "Problem set " + std::to_string(N);
-        static const std::string sub = "00" + std::to_string(N);
-        return Describe(ws, {"040", "Many", sub.c_str(), "3", "000", title.c_str(), "Several"});
-    }
-    Echo(ws, "Many");
-}
+void Sums(GeneratorWorkspace& ws) { Echo(ws, "Sums"); }
+void Products(GeneratorWorkspace& ws) { Echo(ws, "Products"); }
+void Areas(GeneratorWorkspace& ws) { Echo(ws, "Areas"); }
+void ShapeTheory(GeneratorWorkspace& ws) { Echo(ws, "Theory"); }
+void OnlyTheory(GeneratorWorkspace& ws) { Echo(ws, "Definitions"); }
+void Many(GeneratorWorkspace& ws) { Echo(ws, "Many"); }
 template <int N>
 void OtherSubject(GeneratorWorkspace& ws) {
     static const char* subjects[4] = {"Physics", "Chemistry", "Biology", "Geology"};
-    if (ws.DescribeMode) {
-        Describe(ws, {"010", "Basics", "001", "3", "000", "Basics", "Basics"});
-        ws.Subject = subjects[N];
-        return;
-    }
     Echo(ws, subjects[N]);
+}
+
+DescribeBlock ManyBlock(int n) {
+    return {"040", "Many", "00" + std::to_string(n), "3", "000", "Problem set " + std::to_string(n), "Several"};
+}
+
+DescribeBlock OtherSubjectBlock(const char* subject) {
+    DescribeBlock block{"010", "Basics", "001", "3", "000", "Basics", "Basics"};
+    block.subject = subject;
+    return block;
 }
 }  // namespace
 
 GeneratorModule FakeCatalogueModule() {
     return {"KVOL_FAKE",
             16,
-            {{1, Sums},
-             {2, Products},
-             {3, Areas},
-             {4, ShapeTheory},
-             {5, OnlyTheory},
-             {6, Many<1>},
-             {7, Many<2>},
-             {8, Many<3>},
-             {9, Many<4>},
-             {10, Many<5>},
-             {11, Many<6>},
-             {12, Many<7>},
-             {13, OtherSubject<0>},
-             {14, OtherSubject<1>},
-             {15, OtherSubject<2>},
-             {16, OtherSubject<3>}}};
+            {{1, Sums, {"010", "Numbers", "001", "1", "020", "Sums", "&DPAdd numbers in steps"}},
+             {2, Products, {"010", "Numbers", "002", "2", "012", "Products", "Multiply numbers"}},
+             {3, Areas, {"020", "Shapes", "001", "3", "000", "Areas", "Find the area"}},
+             {4, ShapeTheory, {"020", "Shapes", "002", "4", "", "Theory of shapes", "Read"}},
+             {5, OnlyTheory, {"030", "Only theory", "001", "4", "", "Definitions", "Read"}},
+             {6, Many, ManyBlock(1)},
+             {7, Many, ManyBlock(2)},
+             {8, Many, ManyBlock(3)},
+             {9, Many, ManyBlock(4)},
+             {10, Many, ManyBlock(5)},
+             {11, Many, ManyBlock(6)},
+             {12, Many, ManyBlock(7)},
+             {13, OtherSubject<0>, OtherSubjectBlock("Physics")},
+             {14, OtherSubject<1>, OtherSubjectBlock("Chemistry")},
+             {15, OtherSubject<2>, OtherSubjectBlock("Biology")},
+             {16, OtherSubject<3>, OtherSubjectBlock("Geology")}}};
 }
 
 void ScriptModal(std::function<void(QWidget*)> script) {

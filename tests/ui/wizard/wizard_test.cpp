@@ -359,7 +359,7 @@ TEST(Wizard, FinishWritesTheSettingsAndCancelRestoresEverything) {
         EXPECT_EQ(b.settings.Stored("Solpos"), "2");
         EXPECT_EQ(b.settings.Stored("Prosuf"), ".-");
         EXPECT_EQ(b.settings.Stored("Propre"), "");
-        // Written with a small p, and the old spelling no longer stands beside it.
+        // Written with a small p only: no second key "PagPos" beside it.
         EXPECT_EQ(b.settings.Stored("Pagpos"), "12");
         EXPECT_FALSE(b.settings.Has("PagPos"));
         EXPECT_EQ(b.settings.Stored("Procol"), QString::number(192 + 256 * 224 + 65536 * 255));

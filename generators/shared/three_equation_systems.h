@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-#include "generators/ga3/space_tools.h"
+#include "generators/shared/space_tools.h"
 #include "generators/generator_contract.h"
 
 // The two solvers of systems of three linear equations. Each writes either a system of

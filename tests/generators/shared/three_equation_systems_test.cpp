@@ -2,11 +2,11 @@
 
 #include <set>
 
-#include "generators/ga3/three_equation_systems.h"
+#include "../ga3/space_checks.h"
 #include "generators/hub.h"
+#include "generators/shared/three_equation_systems.h"
 #include "mathservices/number_markup.h"
 #include "mathservices/poly_markup.h"
-#include "space_checks.h"
 #include "support/generator_sweep.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "generators/ga3/space_tools.h"
+#include "generators/shared/space_tools.h"
 
 #include <algorithm>
 #include <cmath>

@@ -8,7 +8,7 @@
 #include <regex>
 
 #include "generators/hub.h"
-#include "generators/tri/trig_equation_templates.h"
+#include "generators/shared/trig_equation_templates.h"
 #include "mathservices/number_markup.h"
 #include "support/generator_sweep.h"
 

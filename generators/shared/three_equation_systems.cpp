@@ -1,4 +1,4 @@
-#include "generators/ga3/three_equation_systems.h"
+#include "generators/shared/three_equation_systems.h"
 
 #include <cmath>
 

@@ -1,4 +1,6 @@
-#include "generators/tri/trig_equation_templates.h"
+#include "generators/shared/trig_equation_templates.h"
+
+#include "mathservices/number_markup.h"
 
 // The 138 equations in short-hand, each with its solutions in [0°, 360°), grouped by
 // their answer. The order is part of the problem codes: a template is drawn by its number.
@@ -142,3 +144,14 @@ const std::array<TrigEquationTemplate, kTrigEquationCount> kTrigEquationTemplate
     {"2S^2@ -  3S@ +  1  =  0", "30º,  90º,  150º"},
     {"3  -  2C^2@ -  3S@ =  0", "30º,  90º,  150º"},
 }};
+
+std::string ExpandTrigEquation(const std::string& shorthand, const std::string& squareWith) {
+    std::string text = ReplaceAll(shorthand, "^2@", squareWith);
+    text = ReplaceAll(text, "2@", " 2&+Ix&-I ");
+    text = ReplaceAll(text, "3@", " 3&+Ix&-I ");
+    text = ReplaceAll(text, "@", " &+Ix&-I ");
+    text = ReplaceAll(text, "\u00BA", "\u00B0");
+    text = ReplaceAll(text, "S", "sin");
+    text = ReplaceAll(text, "C", "cos");
+    return ReplaceAll(text, "T", "tan");
+}

@@ -7,6 +7,7 @@
 #include "cli/cli_commands.h"
 #include "core/col_file.h"
 #include "core/collection.h"
+#include "core/editing.h"
 #include "core/page_render.h"
 #include "export/picture_export.h"
 #include "typesetter/qt_surface.h"
@@ -107,7 +108,7 @@ int RunPicturesCommand(const CliArguments& args) {
         else if (a == "--solutions") options.withSolution = true;
         else if (a == "--transparent") options.transparent = true;
         else if (a == "--dpi" && i + 1 < args.size()) {
-            const double dpi = LeadingNumber(args[++i]);
+            const double dpi = LeadingNumberSkippingBlanks(args[++i]);
             if (!(dpi >= 24 && dpi <= 1200)) wrong = true;
             options.dpi = dpi;
         } else if (colFile.empty() && !a.empty() && a[0] != '-') colFile = a;

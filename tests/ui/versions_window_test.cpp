@@ -6,6 +6,7 @@
 #include <QSpinBox>
 
 #include "core/col_file.h"
+#include "core/editing.h"
 #include "ui/main_window/page_setup_dialog.h"
 #include "ui/main_window/versions_dialog.h"
 #include "ui_fixture.h"

@@ -1,6 +1,11 @@
 #pragma once
+#include <memory>
 #include <string>
 #include <vector>
+
+class QGuiApplication;
+struct ApplicationState;
+struct TypesetterState;
 
 // One command of the command-line tool: its arguments after the command word; returns
 // the exit status. Errors go to standard error with a clear message.
@@ -32,3 +37,9 @@ bool SavePng(const std::string& path, const QImage& image, const char* command);
 
 // Exit status for a call whose words are wrong.
 inline constexpr int kUsageError = 2;
+
+// The Qt side the typesetter needs: a gui application, offscreen unless told otherwise
+// (none when one runs already).
+std::unique_ptr<QGuiApplication> StartGui();
+// Picture folders: "img" beside the program, and the per-user temp folder.
+void SetFolders(ApplicationState& app, TypesetterState& typesetter);

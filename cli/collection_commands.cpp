@@ -26,6 +26,24 @@
 
 namespace fs = std::filesystem;
 
+// The Qt side the typesetter needs: a gui application, offscreen unless told otherwise.
+std::unique_ptr<QGuiApplication> StartGui() {
+    if (QGuiApplication::instance()) return nullptr;
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int argc = 1;
+    static char name[] = "sumforge-cli";
+    static char* argv[] = {name, nullptr};
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+// Picture folders: "img" beside the program, and the per-user temp folder.
+void SetFolders(ApplicationState& app, TypesetterState& typesetter) {
+    UseQtPictures(typesetter);
+    if (typesetter.TempPictureFolder.empty()) typesetter.TempPictureFolder = (QDir::tempPath() + "/sumforge/temp").toStdString();
+    app.ImageFolder = typesetter.PictureFolder;
+    app.TempFolder = typesetter.TempPictureFolder;
+}
+
 namespace {
 // One choice of the new command: module, routine, how many problems, items in each.
 struct Choice {
@@ -153,24 +171,6 @@ void NewUsage() {
                  "  --name-line [first|every]  a name line under the title of the first or every page\n"
                  "  --versions N             with --pdf OUT: N versions, OUT-A.pdf, OUT-A-key.pdf ...\n"
                  "                           (--key-only, --sheets-only, --col DIR as in versions)\n";
-}
-
-// The Qt side the typesetter needs: a gui application, offscreen unless told otherwise.
-std::unique_ptr<QGuiApplication> StartGui() {
-    if (QGuiApplication::instance()) return nullptr;
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char name[] = "sumforge-cli";
-    static char* argv[] = {name, nullptr};
-    return std::make_unique<QGuiApplication>(argc, argv);
-}
-
-// Picture folders: "img" beside the program, and the per-user temp folder.
-void SetFolders(ApplicationState& app, TypesetterState& typesetter) {
-    UseQtPictures(typesetter);
-    if (typesetter.TempPictureFolder.empty()) typesetter.TempPictureFolder = (QDir::tempPath() + "/sumforge/temp").toStdString();
-    app.ImageFolder = typesetter.PictureFolder;
-    app.TempFolder = typesetter.TempPictureFolder;
 }
 
 // The composing machinery: the hidden screen picture that pages are measured on.

@@ -13,24 +13,6 @@
 #include "typesetter/qt_surface.h"
 
 namespace {
-// The Qt side the typesetter needs: a gui application, offscreen unless told otherwise.
-std::unique_ptr<QGuiApplication> StartGui() {
-    if (QGuiApplication::instance()) return nullptr;
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char name[] = "sumforge-cli";
-    static char* argv[] = {name, nullptr};
-    return std::make_unique<QGuiApplication>(argc, argv);
-}
-
-// Picture folders: "img" beside the program, and the per-user temp folder.
-void SetFolders(ApplicationState& app, TypesetterState& typesetter) {
-    UseQtPictures(typesetter);
-    if (typesetter.TempPictureFolder.empty()) typesetter.TempPictureFolder = (QDir::tempPath() + "/sumforge/temp").toStdString();
-    app.ImageFolder = typesetter.PictureFolder;
-    app.TempFolder = typesetter.TempPictureFolder;
-}
-
 bool EndsWithCol(const std::string& name) { return name.size() >= 4 && Upper(name.substr(name.size() - 4)) == ".COL"; }
 
 // A collection file opened and composed as the window would show it.

@@ -293,7 +293,7 @@ TEST(NthRootRationalisation, BothTypes) {
     GeneratorWorkspace ws;
     ws.stream.Draw(-1);
     int powers = 0, values = 0;
-    for (int seed = 0; seed < SweepSeedCount(3000); ++seed) {
+    for (int seed = 0; seed < 3000; ++seed) {
         ws.stream.SeedStream(seed);
         const int type = 1 + seed % 2;
         const ItemTexts item = DrawNthRootRationalisation(ws, type);

@@ -136,13 +136,13 @@ int PageRun(ApplicationState& app, std::int32_t& flow, int lastBlock, int firstP
             if (app.Blocks[b].page == 0) text += app.Blocks[b].text;
         if (PageHasNameLine(app.Page, g)) text = NameLineMarkup() + text;
         if (!settings.Title.empty()) text = "&+B" + PlainTextMarkup(settings.Title) + "&-B&LF&LF" + text;
-        if (settings.PagePositionCode & 8)
-            text += " &LF";
-        else if (settings.PagePositionCode != 0)
-            text = " &LF" + text;
+        // A page number at the top takes the first line; one at the foot takes room the
+        // layout keeps clear above the bottom margin on every page.
+        const bool numberAtFoot = (settings.PagePositionCode & 8) != 0;
+        if (settings.PagePositionCode != 0 && !numberAtFoot) text = " &LF" + text;
         flow = 0;
         app.window->YieldEvents();
-        flow = app.measure->MeasurePage(text, app.ZoomScale);
+        flow = app.measure->MeasurePage(text, app.ZoomScale, numberAtFoot);
         if (flow == 0) {
             for (int b = 1; b <= app.BlockCount; ++b)
                 if (app.Blocks[b].page == 0) app.Blocks[b].page = g;

@@ -37,8 +37,9 @@ void PrintPageNumber(ApplicationState& app, TypesetterState& typesetter, Drawing
 }
 } // namespace
 
-std::int32_t TypesetterMeasure::MeasurePage(const std::string& text, double zoomScale) {
+std::int32_t TypesetterMeasure::MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) {
     typesetter_.ZoomScale = zoomScale;
+    typesetter_.PageNumberAtFoot = pageNumberAtFoot;
     typesetter_.ScreenSurface = &screen_;
     double size = 12 * zoomScale;
     LayoutText(typesetter_, text, size, screen_);
@@ -87,6 +88,7 @@ void DrawCurrentPage(ApplicationState& app, TypesetterState& typesetter, Drawing
     }
     typesetter.ZoomScale = zoom;
     typesetter.ScreenSurface = &screen;
+    typesetter.PageNumberAtFoot = (code & 8) != 0;
     double size = 12 * zoom;
     LayoutText(typesetter, text, size, screen);
     CopyMarks(app, typesetter);
@@ -127,6 +129,7 @@ void PrintOnePage(ApplicationState& app, TypesetterState& typesetter, DrawingSur
         printer.Line(right, bottom, m, bottom, kWhite);
         printer.Line(m, bottom, m, top, kWhite);
     }
+    typesetter.PageNumberAtFoot = (code & 8) != 0;
     double size = 12.0;
     LayoutText(typesetter, text, size, printer);
     if (code == 0) return;

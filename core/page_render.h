@@ -55,7 +55,7 @@ private:
 class TypesetterMeasure : public PageMeasurePort {
 public:
     TypesetterMeasure(TypesetterState& typesetter, DrawingSurface& screen) : typesetter_(typesetter), screen_(screen) {}
-    std::int32_t MeasurePage(const std::string& text, double zoomScale) override;
+    std::int32_t MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) override;
 
 private:
     TypesetterState& typesetter_;

@@ -2,7 +2,7 @@
 
 #include "mathservices/utf8_text.h"
 
-std::int32_t FitAllMeasure::MeasurePage(const std::string& text, double zoomScale) {
+std::int32_t FitAllMeasure::MeasurePage(const std::string& text, double, bool) {
     // Line ends inside the text mean nothing; lines are split at "&LF", and a line that
     // begins with a mark takes it.
     std::string plain;

@@ -67,7 +67,8 @@ public:
 class PageMeasurePort {
 public:
     virtual ~PageMeasurePort() = default;
-    virtual std::int32_t MeasurePage(const std::string& text, double zoomScale) = 0;
+    // pageNumberAtFoot: the page number takes room at the foot of the text.
+    virtual std::int32_t MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) = 0;
 };
 
 class QuietClipboard : public ClipboardPort {
@@ -115,5 +116,5 @@ public:
 // Without a typesetter every text fits: one page, the last mark placed.
 class FitAllMeasure : public PageMeasurePort {
 public:
-    std::int32_t MeasurePage(const std::string& text, double zoomScale) override;
+    std::int32_t MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) override;
 };

@@ -124,6 +124,17 @@ void LayoutText(TypesetterState& st, const std::string& utf8Text, double& baseSi
         st.MarginLeft = st.MarginRight = st.MarginTop = st.MarginBottom = kPageMargin;
     }
 
+    // Room for the page number at the foot (Times New Roman 11, as it is printed) and half
+    // a line of 12 points between it and the last line above.
+    double footRoom = 0;
+    if (st.PageNumberAtFoot) {
+        surface.SetFontName("Times New Roman");
+        surface.SetFontSize(11 * zoom);
+        footRoom = surface.TextHeight("0") + 6 * 20 * zoom;
+        surface.SetFontSize(baseSize);
+    }
+    const double textBottom = st.PageHeight - st.MarginBottom - footRoom;
+
     st.FlowResult = 0;
     st.HungPictures.clear();
     double lineY = 0;
@@ -169,8 +180,8 @@ void LayoutText(TypesetterState& st, const std::string& utf8Text, double& baseSi
             surface.SetCurrentY(box.over + lineY + st.MarginTop);
             // A line whose hung picture would reach below the page goes to the next page
             // with it, so that the picture is not cut off at the foot of the sheet.
-            const bool pictureFits = st.LineHang <= 0 || lineY == 0 || surface.CurrentY() + st.LineHang <= st.PageHeight - st.MarginBottom;
-            if (surface.CurrentY() >= st.PageHeight - st.MarginBottom - (box.bottom + box.over) || !pictureFits) {
+            const bool pictureFits = st.LineHang <= 0 || lineY == 0 || surface.CurrentY() + st.LineHang <= textBottom;
+            if (surface.CurrentY() >= textBottom - (box.bottom + box.over) || !pictureFits) {
                 st.FlowResult = -st.FlowResult;
                 pageFull = true;
                 break;

@@ -59,6 +59,9 @@ struct PageDevices {
     DrawingSurface* PrinterSurface = nullptr;
     bool PrinterInstalled = true;
     bool ShowMarginGuides = false;
+    // The page number stands at the foot of the text: the lines leave it its height and
+    // half a line clear above the bottom margin.
+    bool PageNumberAtFoot = false;
     // Called between lines so that a window stays alive during a long layout.
     std::function<void()> YieldToEvents;
 

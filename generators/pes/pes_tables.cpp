@@ -10,24 +10,24 @@ std::string RoundedMarkup(MathWorkspace& ws, double x, int decimals) {
 }
 
 const TableLook kFrequencyTableLook{"28.2", "&+Ix&-I_i", "&+I&FA&-I_i", "&SP=11:", "&SP=20:"};
-// The band is as wide as the spaced heads "     Interval             f_i    " in the text face
-// (38.8 mm at 12 points): narrower, the underline and the heads written in the band's
-// colour would stand out past its end.
+// The band is as wide as the heads with room behind the second one (38.8 mm: "Interval" is
+// the widest first head).
 const TableLook kClassTableLook{"38.8", "Interval", "&+I&FA&-I_i", "&SP=11:", "&SP=23:"};
 const TableLook kPairTableLook{"28.2", "&+Ix&-I_i", "&+Iy&-I_i", "&SP=11:", "&SP=20:"};
 
 std::string TableMarkup(const TableLook& look, const std::vector<TableRow>& rows) {
-    const std::string heads = "     " + look.firstHead + "             " + look.secondHead + "    ";
-    // The band's underline keeps the width of the spaced heads, written in the band's own
-    // colour; the heads themselves then stand at the columns' tabs, over their columns
-    // (spaces alone put them wherever the font's widths lead, not over the columns).
-    std::string text = "&SP=10:&BC=230;230;250:&FF=REC," + look.bandWidth + ",5.5:#UDL(&FC=230;230;250:" + heads +
-                       "&FC=Negro:#UDL)" + look.firstColumn + look.firstHead + look.secondColumn + look.secondHead + "&LF";
+    // The head band and its rule are filled boxes from the pen at the line's top: the black
+    // box first, the band over it, so that a rule of 0.2 mm shows at the band's foot. The
+    // heads are written once, at the columns' tabs, over their columns; the page's text
+    // then holds each head once.
+    std::string text = "&SP=10:&BC=0;0;0:&FF=REC," + look.bandWidth + ",5.7:&BC=230;230;250:&FF=REC," +
+                       look.bandWidth + ",5.5:" + look.firstColumn + look.firstHead + look.secondColumn +
+                       look.secondHead + "&LF";
     for (const TableRow& row : rows) {
         text += look.firstColumn + row.first + look.secondColumn + row.second + "&LF";
     }
-    // The closing band repeats the heads in white: it keeps the width of the header band.
-    text += "&SP=10:#SEG(&FC=Blanco:" + heads + "&FC=Negro:#SEG)&LF";
+    // The closing rule under the last row, as wide as the band.
+    text += "&SP=10:&BC=0;0;0:&FF=REC," + look.bandWidth + ",0.2: &LF";
     return text;
 }
 

@@ -157,7 +157,7 @@ void GroupedDataStatistics(GeneratorWorkspace& ws) {
         }
         ws.Statement = "Calculate mean, median, mode, standard deviation, percentage of data below &+Ix&-I& =& " +
                        NumberToMarkup(point);
-        answer = "&SP=10:Percentage of data below &+Ix&-I& =& " + NumberToMarkup(point) + ":  " +
+        answer = "&SP=10:Percentage of data below &+Ix&-I& =& " + NumberToMarkup(point) + ": " +
                  RoundedMarkup(ws, below / total * 100, 2) + "%&LF";
     } else {
         int order = 0;
@@ -175,12 +175,11 @@ void GroupedDataStatistics(GeneratorWorkspace& ws) {
         answer = "&SP=10:" + measure + " = " + RoundedMarkup(ws, InterpolatedPoint(lows, freqs, width, position), 2) +
                  "&LF";
     }
-    ws.Statement += (measure.empty() ? "" : " ");
     ws.Statement += " and histogram chart based on the following table, where &+I&FA&-I_i denotes the absolute "
                     "frequency:&LF";
     std::vector<TableRow> rows;
     for (int i = 0; i < n; ++i) {
-        rows.push_back({"[" + NumberToMarkup(lows[i]) + ",  " + NumberToMarkup(lows[i] + width) + ")",
+        rows.push_back({"[" + NumberToMarkup(lows[i]) + ", " + NumberToMarkup(lows[i] + width) + ")",
                         NumberToMarkup(freqs[i])});
     }
     ws.Statement += TableMarkup(kClassTableLook, rows);

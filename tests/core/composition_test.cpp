@@ -159,12 +159,16 @@ TEST(Composition, PageNumberLineKeepsItsRoom) {
     bench.app.Settings.PagePositionCode = 0;
     ComposeDocument(bench.app, true, 0);
     EXPECT_EQ(bench.measure.texts.back(), "&+BT&-B&LF&LF" + bench.app.Blocks[1].text);
+    EXPECT_FALSE(bench.measure.numberAtFoot.back());
+    // At the foot, the layout keeps the number's room on every page, not a blank last line.
     bench.app.Settings.PagePositionCode = 9;
     ComposeDocument(bench.app, true, 0);
-    EXPECT_EQ(bench.measure.texts.back(), "&+BT&-B&LF&LF" + bench.app.Blocks[1].text + " &LF");
+    EXPECT_EQ(bench.measure.texts.back(), "&+BT&-B&LF&LF" + bench.app.Blocks[1].text);
+    EXPECT_TRUE(bench.measure.numberAtFoot.back());
     bench.app.Settings.PagePositionCode = 1;
     ComposeDocument(bench.app, true, 0);
     EXPECT_EQ(bench.measure.texts.back(), " &LF&+BT&-B&LF&LF" + bench.app.Blocks[1].text);
+    EXPECT_FALSE(bench.measure.numberAtFoot.back());
 }
 
 TEST(Composition, PagesBreakWhereTheMeasureSays) {

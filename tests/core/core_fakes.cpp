@@ -5,8 +5,9 @@
 #include "core/collection.h"
 #include "core/composition.h"
 
-std::int32_t LineMeasure::MeasurePage(const std::string& text, double) {
+std::int32_t LineMeasure::MeasurePage(const std::string& text, double, bool pageNumberAtFoot) {
     texts.push_back(text);
+    numberAtFoot.push_back(pageNumberAtFoot);
     std::int32_t flow = 0;
     int lines = 0;
     std::size_t start = 0;

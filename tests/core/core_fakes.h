@@ -89,10 +89,11 @@ public:
 class LineMeasure : public PageMeasurePort {
 public:
     explicit LineMeasure(int capacityLines) : capacity(capacityLines) {}
-    std::int32_t MeasurePage(const std::string& text, double zoomScale) override;
+    std::int32_t MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) override;
 
     int capacity;
     std::vector<std::string> texts;
+    std::vector<bool> numberAtFoot;
 };
 
 // A state with fakes plugged in.

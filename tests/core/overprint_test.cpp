@@ -57,6 +57,9 @@ void UsePictures(TypesetterState& t) {
     t.PictureFolder = SUMFORGE_SOURCE_DIR "/data/img";
 }
 
+// Half a line of 12 points between the page number at the foot and the text above it.
+constexpr double kFooterGap = 6 * 20;
+
 // The item count of a routine in a run: the sweep's seed walks through 1 to 26.
 int ItemsFor(int routine, int seed) { return (routine * 7 + seed * 11) % 26 + 1; }
 
@@ -137,6 +140,7 @@ std::vector<std::string> CheckModule(const Module& module, int position, int see
         const double w = (wide - 2) * 15.0, h = (high - 2) * 15.0;
         note(Where(module.name, position, seed, "screen", page, variant),
              OverprintFaults(recorder.inks, t.MarginLeft, t.MarginTop, w - t.MarginRight, h - t.MarginBottom, 15));
+        note(Where(module.name, position, seed, "screen", page, variant), FooterFaults(recorder.inks, kFooterGap));
     }
     {
         QPdfWriter writer(pdfPath);
@@ -154,6 +158,7 @@ std::vector<std::string> CheckModule(const Module& module, int position, int see
             note(Where(module.name, position, seed, "paper", page, variant),
                  OverprintFaults(recorder.inks, t.MarginLeft, t.MarginTop, t.PageWidth - t.MarginRight,
                                  t.PageHeight - t.MarginBottom, 15));
+            note(Where(module.name, position, seed, "paper", page, variant), FooterFaults(recorder.inks, kFooterGap));
         }
         paper.End();
     }
@@ -226,4 +231,14 @@ TEST(OverprintCheck, FindsOverlapsOfDifferentGroupsAndInkOutsideTheMargins) {
     EXPECT_TRUE(OverprintFaults(apart, 0, 0, 1000, 1000, 5).empty());
     EXPECT_EQ(OverprintFaults(apart, 0, 0, 250, 1000, 5).size(), 1u);
     EXPECT_EQ(OverprintFaults(apart, 0, 120, 1000, 1000, 5).size(), 2u);
+}
+
+// The page number at the foot keeps its gap from the last line above it.
+TEST(OverprintCheck, FindsALineTooNearThePageNumberAtTheFoot) {
+    using Ink = InkRecorder::Ink;
+    const Ink number = {500, 900, 540, 950, -2, 'T', "7"};
+    const std::vector<Ink> near = {{100, 800, 400, 890, 1, 'T', "last line"}, number};
+    EXPECT_EQ(FooterFaults(near, 120).size(), 1u);
+    const std::vector<Ink> apart = {{100, 700, 400, 760, 1, 'T', "last line"}, number};
+    EXPECT_TRUE(FooterFaults(apart, 120).empty());
 }

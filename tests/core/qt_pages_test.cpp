@@ -27,8 +27,9 @@ void EnsureGui() {
 class DrawingMeasure : public PageMeasurePort {
 public:
     DrawingMeasure(TypesetterState& t, QtSurface& s) : typesetter(t), surface(s) {}
-    std::int32_t MeasurePage(const std::string& text, double zoom) override {
+    std::int32_t MeasurePage(const std::string& text, double zoom, bool pageNumberAtFoot) override {
         typesetter.ZoomScale = zoom;
+        typesetter.PageNumberAtFoot = pageNumberAtFoot;
         typesetter.ScreenSurface = &surface;
         double size = 12 * zoom;
         LayoutText(typesetter, text, size, surface);

@@ -125,3 +125,16 @@ std::vector<std::string> OverprintFaults(const std::vector<InkRecorder::Ink>& in
     }
     return faults;
 }
+
+std::vector<std::string> FooterFaults(const std::vector<InkRecorder::Ink>& inks, double gap) {
+    std::vector<std::string> faults;
+    if (inks.empty()) return faults;
+    const InkRecorder::Ink& number = inks.back();
+    if (number.kind != 'T' || number.group >= 0) return faults;
+    for (std::size_t i = 0; i + 1 < inks.size(); ++i) {
+        const InkRecorder::Ink& ink = inks[i];
+        if (ink.y1 > number.y0 - gap)
+            faults.push_back("too near the page number " + Describe(number) + ": " + Describe(ink));
+    }
+    return faults;
+}

@@ -75,3 +75,7 @@ private:
 // when the page is clean.
 std::vector<std::string> OverprintFaults(const std::vector<InkRecorder::Ink>& inks, double left, double top,
                                          double right, double bottom, double tolerance);
+
+// The page number at the foot (the last ink of a page, drawn outside the layout) stands at
+// least gap below every other ink of the page: one line each that comes nearer.
+std::vector<std::string> FooterFaults(const std::vector<InkRecorder::Ink>& inks, double gap);

@@ -285,7 +285,7 @@ bool FormMain::ShowProperties() {
     return launcher_.properties(app_, this);
 }
 
-std::int32_t FormMain::MeasurePage(const std::string& text, double zoomScale) {
+std::int32_t FormMain::MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) {
     const QSize size(static_cast<int>(SheetPixelsWide(app_.Page.paper) * zoomScale), static_cast<int>(SheetPixelsHigh(app_.Page.paper) * zoomScale));
     if (!measure_ || measureImage_.size() != size) {
         measure_.reset();
@@ -295,7 +295,7 @@ std::int32_t FormMain::MeasurePage(const std::string& text, double zoomScale) {
         measureSurface_ = std::make_unique<QtSurface>(measureImage_);
         measure_ = std::make_unique<TypesetterMeasure>(measureTypesetter_, *measureSurface_);
     }
-    return measure_->MeasurePage(text, zoomScale);
+    return measure_->MeasurePage(text, zoomScale, pageNumberAtFoot);
 }
 
 // ---------------------------------------------------------------- commands

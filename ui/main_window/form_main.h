@@ -180,7 +180,7 @@ public:
     bool ShowWizard() override;
     bool ShowProperties() override;
     // PageMeasurePort
-    std::int32_t MeasurePage(const std::string& text, double zoomScale) override;
+    std::int32_t MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) override;
 
     // The sheet's pointer and clicks (in sheet pixels).
     void SheetMouseMove(QPoint position);

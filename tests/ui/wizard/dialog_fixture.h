@@ -43,9 +43,9 @@ private:
 
 class CountingMeasure : public FitAllMeasure {
 public:
-    std::int32_t MeasurePage(const std::string& text, double zoomScale) override {
+    std::int32_t MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) override {
         ++calls;
-        return FitAllMeasure::MeasurePage(text, zoomScale);
+        return FitAllMeasure::MeasurePage(text, zoomScale, pageNumberAtFoot);
     }
     int calls = 0;
 };

@@ -155,7 +155,7 @@ TEST(PesStatistics, GroupedSweep) {
         for (const auto& [interval, freq] : cells) {
             ASSERT_EQ(interval.front(), '[') << p.code;
             low.push_back(ReadMarkupNumber(interval.substr(1)));
-            high.push_back(ReadMarkupNumber(interval.substr(interval.find(",  ") + 3)));
+            high.push_back(ReadMarkupNumber(interval.substr(interval.find(", ") + 2)));
             f.push_back(ReadMarkupNumber(freq));
         }
         EXPECT_EQ(std::set<double>(f.begin(), f.end()).size(), f.size()) << p.code;
@@ -222,10 +222,10 @@ TEST(PesStatistics, GroupedSweep) {
             EXPECT_NE(p.statement.find(" and histogram chart"), std::string::npos);
             const auto at = p.solution.find("Percentage of data below &+Ix&-I& =& ");
             ASSERT_NE(at, std::string::npos) << p.code;
-            EXPECT_NEAR(NumberAfter(p.solution, ":  ", at), 100 * shareBelow(x), kHalfCent) << p.code;
+            EXPECT_NEAR(NumberAfter(p.solution, ": ", at), 100 * shareBelow(x), kHalfCent) << p.code;
         } else {
-            const bool percentile = p.statement.find(" percentile  and histogram chart") != std::string::npos;
-            const bool quartile = p.statement.find(" quartile  and histogram chart") != std::string::npos;
+            const bool percentile = p.statement.find(" percentile and histogram chart") != std::string::npos;
+            const bool quartile = p.statement.find(" quartile and histogram chart") != std::string::npos;
             ASSERT_TRUE(percentile || quartile) << p.statement;
             measures.insert(percentile ? "percentile" : "quartile");
             const double k = NumberAfter(p.statement, "standard deviation, ");

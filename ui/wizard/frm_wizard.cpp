@@ -405,6 +405,32 @@ void FrmWizard::SubjectKey(int key, bool shift) {
     ChooseSubject(index);
 }
 
+// A key on the subject page: Enter and Space go on, the moving keys move in the grid.
+// False for any other key.
+bool FrmWizard::SubjectPageKey(int key, bool shift) {
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        if (CmdNext->isEnabled()) CmdNextClick();
+        return true;
+    case Qt::Key_Right:
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        SubjectKey(key, shift);
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool FrmWizard::event(QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         auto* key = static_cast<QKeyEvent*>(event);
@@ -412,29 +438,7 @@ bool FrmWizard::event(QEvent* event) {
             CmdCancelClick();
             return true;
         }
-        if (page_ == 2) {
-            switch (key->key()) {
-                case Qt::Key_Return:
-                case Qt::Key_Enter:
-                case Qt::Key_Space:
-                    if (CmdNext->isEnabled()) CmdNextClick();
-                    return true;
-                case Qt::Key_Right:
-                case Qt::Key_Left:
-                case Qt::Key_Up:
-                case Qt::Key_Down:
-                case Qt::Key_PageUp:
-                case Qt::Key_PageDown:
-                case Qt::Key_Tab:
-                case Qt::Key_Backtab:
-                case Qt::Key_Home:
-                case Qt::Key_End:
-                    SubjectKey(key->key(), key->modifiers() & Qt::ShiftModifier);
-                    return true;
-                default:
-                    break;
-            }
-        }
+        if (page_ == 2 && SubjectPageKey(key->key(), key->modifiers() & Qt::ShiftModifier)) return true;
     }
     if (event->type() == QEvent::ShortcutOverride && page_ == 2) {
         auto* key = static_cast<QKeyEvent*>(event);
@@ -458,26 +462,11 @@ bool FrmWizard::eventFilter(QObject* watched, QEvent* event) {
                 if (event->type() == QEvent::ShortcutOverride) return true;
             }
             if (event->type() == QEvent::KeyPress) {
-                auto* press = static_cast<QKeyEvent*>(event);
-                switch (key) {
-                case Qt::Key_Escape: CmdCancelClick(); return true;
-                case Qt::Key_Return:
-                case Qt::Key_Enter:
-                case Qt::Key_Space:
-                    if (CmdNext->isEnabled()) CmdNextClick();
+                if (key == Qt::Key_Escape) {
+                    CmdCancelClick();
                     return true;
-                case Qt::Key_Right:
-                case Qt::Key_Left:
-                case Qt::Key_Up:
-                case Qt::Key_Down:
-                case Qt::Key_PageUp:
-                case Qt::Key_PageDown:
-                case Qt::Key_Tab:
-                case Qt::Key_Backtab:
-                case Qt::Key_Home:
-                case Qt::Key_End: SubjectKey(key, press->modifiers() & Qt::ShiftModifier); return true;
-                default: return false;
                 }
+                return SubjectPageKey(key, static_cast<QKeyEvent*>(event)->modifiers() & Qt::ShiftModifier);
             }
         }
     }

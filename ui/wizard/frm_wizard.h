@@ -96,6 +96,7 @@ private:
     void ArriveBack();
     void TxCanChanged(int index);
     void SubjectKey(int key, bool shift);
+    bool SubjectPageKey(int key, bool shift);
     void Finish();
 
     ApplicationState& app_;

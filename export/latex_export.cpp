@@ -271,6 +271,11 @@ private:
     std::uint32_t fill_ = 0; // the colour of filled rectangles
 };
 
+bool UprightInItalic(char32_t c) {
+    return (c >= U'0' && c <= U'9') || c == U'.' || c == U',' || c == U':' || c == U';' || c == U'(' || c == U')' ||
+           c == U'[' || c == U']' || c == U'|' || c == U'{' || c == U'}' || c == U'+' || c == U'=';
+}
+
 std::string StylePrefix(const Style& s, bool inMath) {
     std::string p;
     if (s.coloured) p += "\\color[RGB]{" + RgbText(s.colour) + "}";
@@ -647,7 +652,8 @@ void Walker::Character(const u32& text, std::size_t p) {
     }
     bool known = true;
     const std::string latex = TextChar(c, known);
-    run_ += latex;
+    // Digits, signs and delimiters stand upright in italic text, as the page prints them.
+    run_ += style_.italic && UprightInItalic(c) ? "{\\upshape " + latex + "}" : latex;
     if (!known) {
         Flush();
         Emit(Comment("no LaTeX form for the character U+" + [&] {

@@ -86,6 +86,13 @@ TEST_F(Latex, ColoursBoldItalicAndSizes) {
     EXPECT_TRUE(Has(t, " black ")) << t;
 }
 
+// In an italic run the letters lean and the digits, signs and brackets stand upright.
+TEST_F(Latex, DigitsAndSignsStayUprightInItalicText) {
+    const std::string t = Of("&+I2x+1=(y)&-I");
+    EXPECT_TRUE(Has(t, "{\\upshape 2}x{\\upshape +}{\\upshape 1}{\\upshape =}{\\upshape (}y{\\upshape )}")) << t;
+    EXPECT_FALSE(Has(Of("2x+1"), "upshape")) << Of("2x+1");
+}
+
 TEST_F(Latex, SpecialCharactersAreEscaped) {
     const std::string t = Of("50% of $3 &&{x} ## a__b x^^2 ~\\");
     for (const char* s : {"50\\%", "\\$3", "\\&", "\\{x\\}", "\\#", "a\\_b", "x\\textasciicircum{}2",

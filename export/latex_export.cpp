@@ -615,6 +615,9 @@ std::string Walker::FilledRectangle(const u32& value) {
     std::string box = "\\makebox[0pt][l]{\\color[RGB]{" + RgbText(fill_) + "}";
     if (w < 0) box += "\\hspace*{-" + Number(-w) + "mm}";
     box += "\\rule[" + raise + "]{" + Number(std::fabs(w)) + "mm}{" + Number(std::fabs(h)) + "mm}}";
+    // Smashed, so that a tall bar of a chart rises over the lines above it and does not push
+    // its own line down.
+    box = "\\smash{" + box + "}";
     return math_ ? "\\text{" + box + "}" : box;
 }
 
@@ -821,8 +824,10 @@ std::string Walker::Convert(const u32& text) {
     return all;
 }
 
-// One line of the markup as a paragraph of its own; head (LaTeX) stands at its start.
-std::string LineToLatex(LatexContext& context, u32 line, const std::string& head) {
+// One line of the markup as a paragraph of its own; head (LaTeX) stands at its start. A
+// font size set on a line holds on the lines after it, as on the page (a chart's ticks
+// are lines of 9 points): size is the size the line starts with and the one it ends with.
+std::string LineToLatex(LatexContext& context, u32 line, const std::string& head, double& size) {
     std::string indent;
     const std::size_t indentAt = line.find(U"&LSAN=");
     if (indentAt != u32::npos) {
@@ -832,8 +837,11 @@ std::string LineToLatex(LatexContext& context, u32 line, const std::string& head
         const double mm = LeadingNumber(value);
         if (std::isfinite(mm) && mm > 0 && mm < 400) indent = "\\hspace*{" + Number(mm) + "mm}";
     }
-    Walker walker(context, false, Style{}, 0, 0);
+    Style start;
+    start.size = size;
+    Walker walker(context, false, start, 0, 0);
     const std::string whole = walker.Convert(line);
+    size = walker.FinalStyle().size;
     const std::vector<Segment>& segments = walker.Segments();
     std::string body;
     if (segments.size() == 1) {
@@ -856,8 +864,15 @@ std::string LineToLatex(LatexContext& context, u32 line, const std::string& head
             }
         }
     }
-    if (TrimCopy(body).empty() && indent.empty()) return "\\noindent\\strut\\par\n";
-    return "\\noindent" + indent + "\\strut " + body + "\\par\n";
+    // The line's own size sets its strut and its distance to the next line: the page's lines
+    // stand 1.33 times their size apart (a chart's ticks at 9 points, about 4 mm, the unit of
+    // its bars), the paragraph skip of 2 points included.
+    const std::string open = start.size > 0 ? "{\\fontsize{" + Number(start.size) + "}{" +
+                                                  Number(start.size * 1.33 - 2) + "pt}\\selectfont"
+                                            : "";
+    const std::string close = start.size > 0 ? "\\par}\n" : "\\par\n";
+    if (TrimCopy(body).empty() && indent.empty()) return open + "\\noindent\\strut" + close;
+    return open + "\\noindent" + indent + "\\strut " + body + close;
 }
 } // namespace
 
@@ -885,12 +900,13 @@ std::string MarkupWithHead(LatexContext& context, const std::string& markup, con
     u32 text = ToU32(markup);
     std::string out;
     std::size_t pos = 0;
+    double size = 0;
     while (true) {
         const std::size_t found = text.find(U"&LF", pos);
         const u32 line = text.substr(pos, found == u32::npos ? u32::npos : found - pos);
         // A text that ends with its line end has no empty line behind it.
         if (!(found == u32::npos && line.empty() && pos > 0))
-            out += LineToLatex(context, ExpandLocaleCodes(st, line), pos == 0 ? head : std::string());
+            out += LineToLatex(context, ExpandLocaleCodes(st, line), pos == 0 ? head : std::string(), size);
         if (found == u32::npos) break;
         pos = found + 3;
     }

@@ -93,6 +93,16 @@ TEST_F(Latex, DigitsAndSignsStayUprightInItalicText) {
     EXPECT_FALSE(Has(Of("2x+1"), "upshape")) << Of("2x+1");
 }
 
+// A size set on one line holds on the lines after it, each set at that size and spacing,
+// as the page sets a chart's ticks; a size set back ends it.
+TEST_F(Latex, AFontSizeHoldsOnTheFollowingLines) {
+    const std::string t = Of("a&FS=9:b&LF7&LF6&FS=12:&LFc");
+    EXPECT_TRUE(Has(t, "{\\fontsize{9}{9.97pt}\\selectfont\\noindent\\strut {\\fontsize{9}{10.8}\\selectfont 7}\\par}")) << t;
+    EXPECT_TRUE(Has(t, "\n\\noindent\\strut c\\par")) << t;
+    EXPECT_EQ(t.rfind("\\noindent", 0), 0u) << "the first line has no size of its own: " << t;
+    EXPECT_TRUE(Balanced(t)) << t;
+}
+
 TEST_F(Latex, SpecialCharactersAreEscaped) {
     const std::string t = Of("50% of $3 &&{x} ## a__b x^^2 ~\\");
     for (const char* s : {"50\\%", "\\$3", "\\&", "\\{x\\}", "\\#", "a\\_b", "x\\textasciicircum{}2",
@@ -149,7 +159,9 @@ TEST_F(Latex, WhatHasNoFormIsAVisibleComment) {
     const std::string box = Of("&BC=Amarillo:&FF=REC,0,10:text");
     EXPECT_TRUE(Has(box, "% a coloured band across the page (REC,0,10) is left out")) << box;
     const std::string bar = Of("&BC=0;0;255:&FF=REC,-3,-12:x");
-    EXPECT_TRUE(Has(bar, "\\makebox[0pt][l]{\\color[RGB]{0,0,255}\\hspace*{-3mm}\\rule[\\ht\\strutbox]{3mm}{12mm}}x")) << bar;
+    // A bar takes no height in its line: it rises over the lines above it, as on the page.
+    EXPECT_TRUE(Has(bar, "\\smash{\\makebox[0pt][l]{\\color[RGB]{0,0,255}\\hspace*{-3mm}\\rule[\\ht\\strutbox]{3mm}{12mm}}}x"))
+        << bar;
 }
 
 TEST_F(Latex, DamagedMarkupStaysBalanced) {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Refreshes the "real" part of the fuzz seed corpora from what the program itself writes:
-# collection files made by `sumforge-cli new` (open_file), their problem lines (reg_to_var),
+# collection files made by `sumforge-cli new` and `versions` (open_file), their problem lines (reg_to_var),
 # their problems as clipboard texts (paste) and their statements and solutions (markup).
 #   scripts/make_fuzz_seeds.sh [path/to/sumforge-cli]
 # Hand-made seeds (damaged files, broken tags) stay as they are; files written here are
@@ -16,15 +16,21 @@ export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$work}"
 
 rm -f "$corpus"/{open_file,reg_to_var,paste,markup}/real_*
 
-# Small collections: every module appears, two of them with figures.
+# Small collections: every module appears, two of them with figures (their pictures in the
+# file's picture area), each with another place of the solutions.
 make_collection() {
-    local name="$1"; shift
-    "$cli" new "$@" --seed 4242 --title "Seeds $name" -o "$work/$name.col" >/dev/null
+    local name="$1" where="$2"; shift 2
+    "$cli" new "$@" --seed 4242 --solutions "$where" --title "Seeds $name" -o "$work/$name.col" >/dev/null
 }
-make_collection drills NRP:12x2:3 NRP:9x1:4 ECU:1x1 LFD:1x1:3 INT:1x1:3
-make_collection algebra ALG:3x1 ALG:5x1 GA3:2x1 GA2:1x1 PES:1x1 TRI:4x1
-make_collection figures TRI:6x2 GDE:2x1 NRP:27x1:2
-make_collection analysis LFD:25x1 INT:5x1 PES:3x1 GA2:6x1 ECU:14x1 GA3:7x1 GDE:4x1
+make_collection drills none NRP:12x2:3 NRP:9x1:4 ECU:1x1 LFD:1x1:3 INT:1x1:3
+make_collection algebra after ALG:3x1 ALG:5x1 GA3:2x1 GA2:1x1 PES:1x1 TRI:4x1
+make_collection figures end TRI:6x2 GDE:2x1 NRP:27x1:2
+make_collection analysis page LFD:25x1 INT:5x1 PES:3x1 GA2:6x1 ECU:14x1 GA3:7x1 GDE:4x1
+# A second version of the figures: the same routines with other numbers, as the versions
+# command saves them.
+mkdir -p "$work/versions"
+"$cli" versions "$work/figures.col" 2 --col "$work/versions" >/dev/null
+cp "$work/versions"/*-B.col "$work/version_b.col"
 
 python3 - "$work" "$corpus" <<'PY'
 import pathlib, re, sys

@@ -480,8 +480,8 @@ int ParseNewOptions(const CliArguments& args, NewOptions& o, VersionOutput& vers
 // Opens a collection file into app (composed); says why not on standard error.
 bool OpenCollection(ApplicationState& app, const std::string& colFile, const char* command) {
     app.CurrentFileName = colFile;
-    if (OpenFile(app)) return true;
-    const std::string& message = static_cast<QuietWindow*>(app.window)->lastMessage;
+    std::string message;
+    if (OpenFile(app, &message)) return true;
     // A file that could not be read at all carries the system's reason already.
     if (message.rfind("Cannot open ", 0) == 0)
         std::cerr << "sumforge-cli " << command << ": c" << message.substr(1) << "\n";

@@ -34,8 +34,8 @@ struct OpenedCollection {
 
     bool Open(const std::string& file, const char* command) {
         app.CurrentFileName = file;
-        if (OpenFile(app)) return true;
-        const std::string& message = static_cast<QuietWindow*>(app.window)->lastMessage;
+        std::string message;
+        if (OpenFile(app, &message)) return true;
         if (message.rfind("Cannot open ", 0) == 0)
             std::cerr << "sumforge-cli " << command << ": c" << message.substr(1) << "\n";
         else

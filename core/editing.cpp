@@ -392,22 +392,29 @@ void NewCollectionCommand(ApplicationState& app) {
     app.menus->ActualizarBotones();
 }
 
+namespace {
+constexpr const char* kBadFile = "Bad file.";
+constexpr const char* kNoProblems = "Error: Bad file.";
+} // namespace
+
 void AvisoError(ApplicationState& app) {
     app.window->SetWaitCursor(false);
-    app.window->ShowMessage("Bad file.", "Error", MessageIcon::Exclamation);
+    app.window->ShowMessage(kBadFile, "Error", MessageIcon::Exclamation);
     NoColeccion(app);
 }
 
 namespace {
 // A file whose bytes are not a collection: its message, then the no-collection state.
-void RefuseDamagedFile(ApplicationState& app, ColFileError error) {
+// Returns the message.
+std::string RefuseDamagedFile(ApplicationState& app, ColFileError error) {
     if (error == ColFileError::NoProblems) {
         app.window->SetWaitCursor(false);
-        app.window->ShowMessage("Error: Bad file.", "", MessageIcon::None);
+        app.window->ShowMessage(kNoProblems, "", MessageIcon::None);
         NoColeccion(app);
-        return;
+        return kNoProblems;
     }
     AvisoError(app);
+    return kBadFile;
 }
 
 // Puts the settings and the records of a parsed file in the state.
@@ -421,7 +428,12 @@ void TakeCollection(ApplicationState& app, ColFileContents& contents) {
 }
 } // namespace
 
-bool OpenFile(ApplicationState& app) {
+bool OpenFile(ApplicationState& app, std::string* refusal) {
+    // The message a refusal shows, kept for a caller without a window.
+    auto say = [refusal](const std::string& text) {
+        if (refusal) *refusal = text;
+        return text;
+    };
     app.window->SetBusy(true);
     const std::string name = app.CurrentFileName;
     if (name.size() < 4 || Upper(name.substr(name.size() - 4)) != ".COL") {
@@ -430,8 +442,8 @@ bool OpenFile(ApplicationState& app) {
         app.CurrentFileName.clear();
         app.window->SetBusy(false);
         app.window->SetWaitCursor(false);
-        app.window->ShowMessage("Cannot open " + std::filesystem::path(name).filename().string() +
-                                    ": the name of a problem collection ends in \".col\".",
+        app.window->ShowMessage(say("Cannot open " + std::filesystem::path(name).filename().string() +
+                                    ": the name of a problem collection ends in \".col\"."),
                                 "Error", MessageIcon::Exclamation);
         return false;
     }
@@ -442,11 +454,12 @@ bool OpenFile(ApplicationState& app) {
         // The system's reason says more than "Bad file." about a file that isn't there.
         const int e = errno;
         app.window->SetWaitCursor(false);
-        app.window->ShowMessage("Cannot open " + name + ": " + std::strerror(e), "Error", MessageIcon::Exclamation);
+        app.window->ShowMessage(say("Cannot open " + name + ": " + std::strerror(e)), "Error", MessageIcon::Exclamation);
         NoColeccion(app);
         return false;
     }
     if (read == FileReadResult::Bad) {
+        say(kBadFile);
         AvisoError(app);
         return false;
     }
@@ -454,7 +467,7 @@ bool OpenFile(ApplicationState& app) {
     file.clear();
     if (contents.error != ColFileError::None) {
         // Nothing of a damaged file is taken, not even the settings it had before the damage.
-        RefuseDamagedFile(app, contents.error);
+        say(RefuseDamagedFile(app, contents.error));
         return false;
     }
     TakeCollection(app, contents);

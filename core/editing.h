@@ -51,8 +51,9 @@ void CollectionPropertiesCommand(ApplicationState& app);
 void NewCollectionCommand(ApplicationState& app);
 
 // Opens CurrentFileName: reads and parses it, and on success puts its collection in the
-// window. True on success; on failure the no-collection state holds.
-bool OpenFile(ApplicationState& app);
+// window. True on success; on failure the no-collection state holds, the window shows why,
+// and refusal (when given) holds the same words.
+bool OpenFile(ApplicationState& app, std::string* refusal = nullptr);
 // The "Bad file." box, then the no-collection state.
 void AvisoError(ApplicationState& app);
 

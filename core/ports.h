@@ -68,6 +68,9 @@ class PageMeasurePort {
 public:
     virtual ~PageMeasurePort() = default;
     virtual std::int32_t MeasurePage(const std::string& text, double zoomScale) = 0;
+    // A pagination begins: what the measure keeps from the last one (where pictures were
+    // found, their sizes) is asked for again, since files may have come or changed since.
+    virtual void StartPagination() {}
 };
 
 class QuietClipboard : public ClipboardPort {

@@ -2,6 +2,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -71,6 +72,14 @@ struct PageDevices {
     std::string TempPictureFolder;
     // Reads a picture file's size in pixels; false when it can't be read as a picture.
     std::function<bool(const std::string& file, double& width, double& height)> LoadPicture;
+    // Pictures found by their name in the markup, kept through one pagination (the caller
+    // empties it when one starts): every measuring pass of a page with a figure asks for
+    // it, and each search asks the disk several times.
+    struct FoundPicture {
+        std::string file; // empty when no folder has it as a picture
+        double width = 0, height = 0;
+    };
+    std::map<std::string, FoundPicture> FoundPictures;
 };
 
 // Lives through one LayoutText call and carries from line to line.

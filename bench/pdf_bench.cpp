@@ -255,6 +255,9 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
     const int runs = argc > 1 ? std::max(1, std::atoi(argv[1])) : 7;
+    // "print" or "open" runs that side only (for a profiler); both by default.
+    const std::string only = argc > 2 ? argv[2] : "";
+    const bool doPrint = only != "open", doOpen = only != "print";
     std::printf("load average at the start: %.2f\n", LoadAverage());
 
     Session made;
@@ -274,7 +277,7 @@ int main(int argc, char** argv) {
     const std::string plain = TempPath("sumforge_bench_plain.pdf");
     std::vector<PlainLine> lines;
     std::vector<PrintedPicture> pictures;
-    {
+    if (doPrint) {
         QPdfWriter writer(QString::fromStdString(plain));
         StartPdf(writer);
         TypesetterState typesetter;
@@ -295,13 +298,15 @@ int main(int argc, char** argv) {
                     pictures.size());
     }
 
-    const auto [printTime, plainTime] = Paired(
-        runs, [&] { PrintCollection(made.app, ours); },
-        [&] { DrawPlain(lines, pictures, made.app.PageCount, plain); });
-    std::printf("PDF of %d pages: %.3f s, Qt alone %.3f s, ratio %.2f (goal 1.5)\n", made.app.PageCount, printTime,
-                plainTime, printTime / plainTime);
-    std::printf("PDF size: %lld bytes, Qt alone line by line %lld bytes, ratio %.2f\n", FileSize(ours),
-                FileSize(plain), static_cast<double>(FileSize(ours)) / static_cast<double>(FileSize(plain)));
+    if (doPrint) {
+        const auto [printTime, plainTime] = Paired(
+            runs, [&] { PrintCollection(made.app, ours); },
+            [&] { DrawPlain(lines, pictures, made.app.PageCount, plain); });
+        std::printf("PDF of %d pages: %.3f s, Qt alone %.3f s, ratio %.2f (goal 1.5)\n", made.app.PageCount,
+                    printTime, plainTime, printTime / plainTime);
+        std::printf("PDF size: %lld bytes, Qt alone line by line %lld bytes, ratio %.2f\n", FileSize(ours),
+                    FileSize(plain), static_cast<double>(FileSize(ours)) / static_cast<double>(FileSize(plain)));
+    }
 
     // The file with its pictures, and the same file with the picture tags taken out.
     const std::string withPath = TempPath("sumforge_bench_pictures.col");
@@ -321,10 +326,13 @@ int main(int argc, char** argv) {
         if (!OpenFile(reader.app)) std::printf("cannot open %s\n", path.c_str());
         pages = reader.app.PageCount;
     };
-    const auto [openWith, openWithout] =
-        Paired(runs, [&] { open(withPath, withPages); }, [&] { open(withoutPath, withoutPages); });
-    std::printf("open 500 problems: with pictures %.3f s (%d pages), without %.3f s (%d pages), ratio %.2f (goal 1.2)\n",
-                openWith, withPages, openWithout, withoutPages, openWith / openWithout);
+    if (doOpen) {
+        const auto [openWith, openWithout] =
+            Paired(runs, [&] { open(withPath, withPages); }, [&] { open(withoutPath, withoutPages); });
+        std::printf(
+            "open 500 problems: with pictures %.3f s (%d pages), without %.3f s (%d pages), ratio %.2f (goal 1.2)\n",
+            openWith, withPages, openWithout, withoutPages, openWith / openWithout);
+    }
     std::printf("load average at the end: %.2f\n", LoadAverage());
     for (const std::string& path : {ours, plain, withPath, withoutPath}) std::filesystem::remove(path);
     return 0;

@@ -170,6 +170,7 @@ int PageRun(ApplicationState& app, std::int32_t& flow, int lastBlock, int firstP
 } // namespace
 
 void PaginateDocument(ApplicationState& app, int problem) {
+    if (app.measure) app.measure->StartPagination();
     app.BusyFlag = true;
     app.window->SetBusy(true);
     std::int32_t flow = 1;

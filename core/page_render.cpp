@@ -89,6 +89,8 @@ void DrawCurrentPage(ApplicationState& app, TypesetterState& typesetter, Drawing
     typesetter.ZoomScale = zoom;
     typesetter.ScreenSurface = &screen;
     typesetter.PageNumberAtFoot = (code & 8) != 0;
+    // A page drawn alone finds its pictures again: files may have changed since.
+    typesetter.FoundPictures.clear();
     double size = 12 * zoom;
     LayoutText(typesetter, text, size, screen);
     CopyMarks(app, typesetter);
@@ -104,6 +106,7 @@ void PrintOnePage(ApplicationState& app, TypesetterState& typesetter, DrawingSur
     const double h = printer.TextHeight("HH");
     typesetter.PrinterSurface = &printer;
     typesetter.ZoomScale = 1.0;
+    typesetter.FoundPictures.clear();
     // The rule spans the text between the margins and stands under the title line, which
     // begins at the top margin.
     const double m = kPageMargin;

@@ -56,6 +56,7 @@ class TypesetterMeasure : public PageMeasurePort {
 public:
     TypesetterMeasure(TypesetterState& typesetter, DrawingSurface& screen) : typesetter_(typesetter), screen_(screen) {}
     std::int32_t MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) override;
+    void StartPagination() override { typesetter_.FoundPictures.clear(); }
 
 private:
     TypesetterState& typesetter_;

@@ -69,6 +69,9 @@ public:
     virtual ~PageMeasurePort() = default;
     // pageNumberAtFoot: the page number takes room at the foot of the text.
     virtual std::int32_t MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) = 0;
+    // A pagination begins: what the measure keeps from the last one (where pictures were
+    // found, their sizes) is asked for again, since files may have come or changed since.
+    virtual void StartPagination() {}
 };
 
 class QuietClipboard : public ClipboardPort {

@@ -17,6 +17,21 @@ double OptionNumber(const std::u32string& options, const std::u32string& key, bo
     const std::size_t colon = options.find(U':', start);
     return LeadingNumber(options.substr(start, colon == std::u32string::npos ? std::u32string::npos : colon - start));
 }
+// The program's pictures first, then those that generators leave in the user's folder.
+const PageDevices::FoundPicture& FindPicture(PageDevices& st, const std::string& fileName) {
+    auto it = st.FoundPictures.find(fileName);
+    if (it != st.FoundPictures.end()) return it->second;
+    PageDevices::FoundPicture found;
+    for (const std::string* folder : {&st.PictureFolder, &st.TempPictureFolder}) {
+        const std::string candidate = FindFileIgnoringCase(*folder, fileName);
+        double w = 0, h = 0;
+        if (!candidate.empty() && st.LoadPicture && st.LoadPicture(candidate, w, h) && w > 0 && h > 0) {
+            found = {candidate, w, h};
+            break;
+        }
+    }
+    return st.FoundPictures.emplace(fileName, found).first->second;
+}
 } // namespace
 
 void ImageHandler(TypesetterState& st, const std::u32string& piece, DrawingSurface& s, std::u32string&) {
@@ -36,20 +51,10 @@ void ImageHandler(TypesetterState& st, const std::u32string& piece, DrawingSurfa
     const bool distort = options.find(U"DIST") != std::u32string::npos;
     const bool frame = options.find(U"MARCO") != std::u32string::npos;
 
-    // The program's pictures first, then those that generators leave in the user's folder.
-    std::string file;
-    double pictureW = 0, pictureH = 0;
-    bool loaded = false;
-    const std::string fileName = ToUtf8(name);
-    for (const std::string* folder : {&st.PictureFolder, &st.TempPictureFolder}) {
-        const std::string candidate = FindFileIgnoringCase(*folder, fileName);
-        if (!candidate.empty() && st.LoadPicture && st.LoadPicture(candidate, pictureW, pictureH) && pictureW > 0 &&
-            pictureH > 0) {
-            file = candidate;
-            loaded = true;
-            break;
-        }
-    }
+    const PageDevices::FoundPicture& found = FindPicture(st, ToUtf8(name));
+    const std::string& file = found.file;
+    const double pictureW = found.width, pictureH = found.height;
+    const bool loaded = !file.empty();
     if (dx == 0 || dy == 0) {
         dx = 1440;
         dy = 1080;

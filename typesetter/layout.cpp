@@ -9,11 +9,11 @@
 namespace {
 const std::string kReferenceText = "Nuria es Magn\u00EDfico";
 
-std::u32string RemoveCrLf(const std::u32string& text) {
-    std::u32string out;
+std::string RemoveCrLf(const std::string& text) {
+    std::string out;
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == U'\r' && i + 1 < text.size() && text[i + 1] == U'\n') {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
             ++i;
             continue;
         }
@@ -22,21 +22,15 @@ std::u32string RemoveCrLf(const std::u32string& text) {
     return out;
 }
 
-// Splits at every "&LF"; the last line is what is left, possibly empty. Lines beyond the
-// table's size are left out rather than written past it.
-std::vector<std::u32string> SplitLines(const std::u32string& text) {
-    std::vector<std::u32string> lines;
-    std::size_t pos = 0;
-    while (static_cast<int>(lines.size()) < kMaxLines) {
-        const std::size_t found = text.find(U"&LF", pos);
-        if (found == std::u32string::npos) {
-            lines.push_back(text.substr(pos));
-            break;
-        }
-        lines.push_back(text.substr(pos, found - pos));
-        pos = found + 3;
-    }
-    return lines;
+// The line that begins at pos, up to the next "&LF"; the last line is what is left,
+// possibly empty. Lines are read one by one as layout reaches them: a page is measured
+// with the text of the next 49 blocks, of which only a few fit.
+bool NextLine(const std::string& text, std::size_t& pos, std::u32string& line) {
+    if (pos == std::string::npos) return false;
+    const std::size_t found = text.find("&LF", pos);
+    line = ToU32(text.substr(pos, found == std::string::npos ? std::string::npos : found - pos));
+    pos = found == std::string::npos ? std::string::npos : found + 3;
+    return true;
 }
 
 int MarkNumber(const std::u32string& line) {
@@ -95,8 +89,7 @@ void LayoutText(TypesetterState& st, const std::string& utf8Text, double& baseSi
     st.MarkCount = 0;
     st.LineIndent = 0;
     st.LineColor = 0;
-    const std::u32string text = RemoveCrLf(ToU32(utf8Text));
-    std::vector<std::u32string> lines = SplitLines(text);
+    const std::string text = RemoveCrLf(utf8Text);
 
     surface.SetFontName("Times New Roman");
     surface.SetFontItalic(false);
@@ -139,7 +132,10 @@ void LayoutText(TypesetterState& st, const std::string& utf8Text, double& baseSi
     st.HungPictures.clear();
     double lineY = 0;
     double th = 0;
-    for (std::u32string& rawLine : lines) {
+    std::size_t nextLine = 0;
+    std::u32string rawLine;
+    // Lines beyond the table's size are left out.
+    for (int lineCount = 0; lineCount < kMaxLines && NextLine(text, nextLine, rawLine); ++lineCount) {
         std::u32string line = ExpandLocaleCodes(st, rawLine);
         bool opensProblem = false;
         if (line.compare(0, 5, U"#MARK") == 0) {

@@ -232,8 +232,18 @@ void Interpreter::Run() {
 
 // The first entry of the table that takes the code at p reads it.
 Interpreter::Step Interpreter::ReadToken(std::size_t& p) {
+    // Most tokens are plain characters, read by the last entry: the table is walked only
+    // where a code may begin, and then an entry is compared only where its first sign stands.
+    static const std::u32string kFirstSigns = [] {
+        std::u32string signs;
+        for (const Code& code : kCodes)
+            if (!code.prefix.empty() && signs.find(code.prefix[0]) == std::u32string::npos) signs += code.prefix[0];
+        return signs;
+    }();
+    const char32_t first = text_[p];
+    if (kFirstSigns.find(first) == std::u32string::npos) return PlainText(p);
     for (const Code& code : kCodes) {
-        if (!At(text_, p, code.prefix)) continue;
+        if (!code.prefix.empty() && (code.prefix[0] != first || !At(text_, p, code.prefix))) continue;
         if (code.takesValue && !ValueCode(p, value_)) return Step::Abandon;
         const Step step = (this->*code.read)(p);
         if (step != Step::NotMine) return step;

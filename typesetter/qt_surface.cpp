@@ -11,6 +11,7 @@
 #include <QPagedPaintDevice>
 #include <QPen>
 #include <cmath>
+#include <sys/stat.h>
 
 namespace {
 // Dots per metre of a 1440 dpi device: font metrics measured on it are in twips.
@@ -329,9 +330,11 @@ void QtSurface::Circle(double cx, double cy, double radius) {
 namespace {
 // The cache's record of a file, read again when the file on disk changed.
 PictureCache::Entry& PictureEntry(PictureCache& cache, const QString& path) {
-    const QFileInfo info(path);
-    const qint64 bytes = info.exists() ? info.size() : -1;
-    const QDateTime modified = info.lastModified();
+    // One stat for size and time: every measuring pass of a page with a figure asks.
+    struct stat info {};
+    const bool there = ::stat(path.toLocal8Bit().constData(), &info) == 0;
+    const qint64 bytes = there ? static_cast<qint64>(info.st_size) : -1;
+    const qint64 modified = there ? static_cast<qint64>(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec : 0;
     auto it = cache.entries.find(path);
     if (it == cache.entries.end() || it->bytes != bytes || it->modified != modified) {
         PictureCache::Entry entry;

@@ -29,7 +29,7 @@ struct TypesetterState;
 struct PictureCache {
     struct Entry {
         qint64 bytes = -1;
-        QDateTime modified;
+        qint64 modified = 0; // nanoseconds since the epoch
         QSize size;          // from the header; invalid when the header says nothing
         bool decoded = false; // picture holds the decoding, null when it failed
         QImage picture;

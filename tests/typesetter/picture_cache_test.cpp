@@ -173,6 +173,47 @@ TEST(PictureCache, SurfacesOfOneStateShareItsPictures) {
     EXPECT_EQ(StatePictures(other), nullptr);
 }
 
+TEST(PictureCache, AFigureIsLookedForOnceUntilTheStateForgetsWhereItWas) {
+    EnsureGuiApplication();
+    QTemporaryDir dir;
+    WriteFigure(dir.filePath("fig.png"), 80, 40);
+    TypesetterState st;
+    UseQtPictures(st);
+    st.PictureFolder = dir.path().toStdString();
+    st.TempPictureFolder.clear();
+    int asked = 0;
+    const auto loader = st.LoadPicture;
+    st.LoadPicture = [&](const std::string& file, double& w, double& h) {
+        ++asked;
+        return loader(file, w, h);
+    };
+    QImage image(794, 1123, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QtSurface surface(image);
+    st.ScreenSurface = &surface;
+    const std::string text = "#IMG('FIG.PNG'DXmm=20:DYmm=10:#IMG)&LF#IMG('LATER.PNG'DXmm=20:DYmm=10:#IMG)";
+    auto layOut = [&] {
+        double size = 12;
+        LayoutText(st, text, size, surface);
+    };
+    // Measured again and again, as pagination does: the figure is asked for once.
+    for (int pass = 0; pass < 5; ++pass) layOut();
+    EXPECT_EQ(asked, 1);
+    ASSERT_EQ(st.FoundPictures.count("FIG.PNG"), 1u);
+    EXPECT_EQ(st.FoundPictures["FIG.PNG"].width, 80);
+    EXPECT_EQ(st.FoundPictures["FIG.PNG"].height, 40);
+    EXPECT_TRUE(st.FoundPictures["LATER.PNG"].file.empty());
+    // A picture that comes later is seen once the state forgets what it found.
+    WriteFigure(dir.filePath("later.png"), 40, 40);
+    layOut();
+    EXPECT_TRUE(st.FoundPictures["LATER.PNG"].file.empty());
+    st.FoundPictures.clear();
+    layOut();
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(st.FoundPictures["LATER.PNG"].width, 40);
+    surface.End();
+}
+
 TEST(GlyphRuns, TextOfOneFontAndColourIsOneTextObject) {
     EnsureGuiApplication();
     QTemporaryDir dir;

@@ -298,6 +298,8 @@ std::int32_t FormMain::MeasurePage(const std::string& text, double zoomScale, bo
     return measure_->MeasurePage(text, zoomScale, pageNumberAtFoot);
 }
 
+void FormMain::StartPagination() { measureTypesetter_.FoundPictures.clear(); }
+
 // ---------------------------------------------------------------- commands
 
 void FormMain::NewCommand() {

@@ -181,6 +181,7 @@ public:
     bool ShowProperties() override;
     // PageMeasurePort
     std::int32_t MeasurePage(const std::string& text, double zoomScale, bool pageNumberAtFoot) override;
+    void StartPagination() override;
 
     // The sheet's pointer and clicks (in sheet pixels).
     void SheetMouseMove(QPoint position);

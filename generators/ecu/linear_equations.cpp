@@ -154,9 +154,9 @@ LinearItem RationalLinearItem(GeneratorWorkspace& ws, const std::string& relatio
 
 std::string LinearAnswer(GeneratorWorkspace& ws, const LinearItem& item) {
     const std::string value = FractionToMarkup(ws, item.numerator, item.denominator);
-    if (item.relation == "=") return "&+I x &-I  =  " + value;
+    if (item.relation == "=") return "&+I x&-I = " + value;
     const std::string relation = item.p < 0 ? FlippedRelation(item.relation) : item.relation;
-    return "&+I x &-I  " + relation + "  " + value;
+    return "&+I x&-I " + relation + " " + value;
 }
 
 namespace {

@@ -224,7 +224,7 @@ void MultiplyingAndDividingComplexNumbersInPolarForm(GeneratorWorkspace& ws) {
             const std::string text = "#NES(()" + ComplexPolarToMarkup(ws, first.real(), first.imag(), unit) +
                                      (kind == 1 ? "#NES)  ·  #NES(()" : "#NES)  :  #NES(()") +
                                      ComplexPolarToMarkup(ws, b.real(), b.imag(), unit) + "#NES)";
-            return ItemTexts{text, PolarText(ws, result.real(), result.imag(), unit) + "  =  " +
+            return ItemTexts{text, PolarText(ws, result.real(), result.imag(), unit) + " = " +
                                        ComplexToMarkup(ws, result.real(), result.imag())};
         });
     }
@@ -254,7 +254,7 @@ void PowersOfComplexNumbers(GeneratorWorkspace& ws) {
             const double half = std::floor(n / 2.0);
             const std::string modulus = n % 2 == 0 ? PlainNumberText(std::pow(m, half))
                                                    : SimplifiedRoot(ws, std::pow(m, half), m);
-            return ItemTexts{text, PolarText(ws, modulus, p.real(), p.imag(), unit) + "  =  " +
+            return ItemTexts{text, PolarText(ws, modulus, p.real(), p.imag(), unit) + " = " +
                                        ComplexToMarkup(ws, p.real(), p.imag())};
         });
     }

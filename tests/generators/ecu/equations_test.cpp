@@ -162,7 +162,7 @@ TEST(EcuLinear, IntegerEquationsSolveBySubstitution) {
         for (const auto& a : Answers(p)) {
             EXPECT_EQ(a.find("#COC("), std::string::npos) << p.code << " the solution is whole: " << a;
         }
-        EXPECT_NE(p.solution.find(")&-B&+I x &-I  =  "), std::string::npos) << p.solution;
+        EXPECT_NE(p.solution.find(")&-B&+I x&-I = "), std::string::npos) << p.solution;
     });
 }
 

@@ -18,7 +18,8 @@
 // switches, colours and font codes print nothing; an entity ("&<=", "&pm") is one sign; a
 // construct ("#COC(..#COC)", "#SQR(..#SQR)") is one piece.
 namespace {
-enum class AtomKind { Space, Relation, Sign, Other };
+// A thin space is a script blank ("_ ", "^ "): two thirds of a word space.
+enum class AtomKind { Space, ThinSpace, Relation, Sign, Other };
 
 struct Atom {
     AtomKind kind;
@@ -121,7 +122,7 @@ std::vector<std::vector<Atom>> ReadRuns(const std::u32string& line) {
             continue;
         }
         if (line[p] == U'_' || line[p] == U'^') {
-            if (p + 1 < line.size()) add(AtomKind::Other, start);
+            if (p + 1 < line.size()) add(line[p + 1] == U' ' ? AtomKind::ThinSpace : AtomKind::Other, start);
             p += 2;
             continue;
         }
@@ -157,15 +158,24 @@ std::vector<std::string> RelationSpacingFaults(const std::string& markup) {
                 if (run[i].kind != AtomKind::Relation) continue;
                 std::size_t last = i;
                 while (last + 1 < run.size() && run[last + 1].kind == AtomKind::Relation) ++last;
-                std::size_t before = 0;
-                while (before < i && run[i - 1 - before].kind == AtomKind::Space) ++before;
+                const auto blank = [&run](std::size_t k) {
+                    return run[k].kind == AtomKind::Space || run[k].kind == AtomKind::ThinSpace;
+                };
+                std::size_t before = 0, thin = 0;
+                while (before < i && blank(i - 1 - before)) {
+                    if (run[i - 1 - before].kind == AtomKind::ThinSpace) ++thin;
+                    ++before;
+                }
                 std::size_t after = 0;
-                while (last + 1 + after < run.size() && run[last + 1 + after].kind == AtomKind::Space) ++after;
+                while (last + 1 + after < run.size() && blank(last + 1 + after)) {
+                    if (run[last + 1 + after].kind == AtomKind::ThinSpace) ++thin;
+                    ++after;
+                }
                 const bool opensRun = before == i;
                 const bool endsRun = last + 1 + after == run.size();
-                if ((!opensRun && before != 1) || (!endsRun && after != 1)) {
+                if ((!opensRun && before != 1) || (!endsRun && after != 1) || thin > 0) {
                     faults.push_back(std::to_string(before) + " space(s) before, " + std::to_string(after) +
-                                     " after: " + Around(line, run[i].at));
+                                     " after (" + std::to_string(thin) + " thin): " + Around(line, run[i].at));
                 }
                 i = last;
             }
@@ -218,6 +228,8 @@ TEST(RelationSpacing, TheReaderCountsPrintedSpacesOnly) {
     EXPECT_EQ(RelationSpacingFaults("x& = 6").size(), 1u);
     EXPECT_EQ(RelationSpacingFaults("x=6; y &aprox 2").size(), 1u);
     EXPECT_EQ(RelationSpacingFaults("#SQR(4#SQR)= 2").size(), 1u);
+    EXPECT_EQ(RelationSpacingFaults("&+Ik&-I_ &!=_ -4").size(), 1u);
+    EXPECT_EQ(RelationSpacingFaults("y'_ = 2").size(), 1u);
     // A relation inside a construct belongs to the construct's own text.
     EXPECT_TRUE(RelationSpacingFaults("#COC(a  =  b#N)(2#COC) = 1").empty());
 }

@@ -216,7 +216,7 @@ const std::vector<std::string> kModules = {"KVOL_MATH_ALG", "KVOL_MATH_ECU", "KV
 } // namespace
 
 TEST(RelationSpacing, TheReaderCountsPrintedSpacesOnly) {
-    EXPECT_TRUE(RelationSpacingFaults("&+I x&-I & =& 6").empty());
+    EXPECT_TRUE(RelationSpacingFaults("&+I x&-I& =& 6").empty());
     EXPECT_TRUE(RelationSpacingFaults("&+I x &-I= #COC(-1#N)(3#COC)").empty());
     EXPECT_TRUE(RelationSpacingFaults("a &<= b &FC=Rojo:&!= c").empty());
     EXPECT_TRUE(RelationSpacingFaults("x = 1&LF  = 2&LF&SP=40:= 3").empty());
@@ -225,7 +225,7 @@ TEST(RelationSpacing, TheReaderCountsPrintedSpacesOnly) {
     EXPECT_EQ(RelationSpacingFaults("&+I x &-I  =  6").size(), 1u);
     EXPECT_EQ(RelationSpacingFaults("x   &>=  -2").size(), 1u);
     EXPECT_EQ(RelationSpacingFaults("x =   #COC(-1#N)(3#COC)").size(), 1u);
-    EXPECT_EQ(RelationSpacingFaults("x& = 6").size(), 1u);
+    EXPECT_EQ(RelationSpacingFaults("x& & = 6").size(), 1u);
     EXPECT_EQ(RelationSpacingFaults("x=6; y &aprox 2").size(), 1u);
     EXPECT_EQ(RelationSpacingFaults("#SQR(4#SQR)= 2").size(), 1u);
     EXPECT_EQ(RelationSpacingFaults("&+Ik&-I_ &!=_ -4").size(), 1u);

@@ -181,7 +181,7 @@ void LinearDrill(GeneratorWorkspace& ws, bool rational, bool inequation, int max
 void LinearEquationsInteger(GeneratorWorkspace& ws) {
     LinearDrill(ws, false, false, 26, kStatementColumns3, kSolutionColumns3);
     // This drill's answers follow the letter without the usual blank.
-    ws.Solution = ReplaceAll(ws.Solution, ")&-B &+I x &-I", ")&-B&+I x &-I");
+    ws.Solution = ReplaceAll(ws.Solution, ")&-B &+I x&-I", ")&-B&+I x&-I");
 }
 
 // Routine 8.

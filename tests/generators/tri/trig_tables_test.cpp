@@ -188,7 +188,7 @@ TEST(TrigEquationTable, TidiedBlanks) {
     EXPECT_EQ(TidyEquationBlanks(ExpandTrigEquation("S@  +  C^2@ =  - S^2@", kTrigSquareWithBlank)),
               "sin &+Ix&-I + cos^2 &+Ix&-I = -sin^2 &+Ix&-I");
     EXPECT_EQ(TidyEquationBlanks(ExpandTrigEquation("C@(2  -  C@)  =  S^2@", kTrigSquareWithScriptBlank)),
-              "cos &+Ix&-I(2 - cos &+Ix&-I) = sin^2^ &+Ix&-I");
+              "cos &+Ix&-I (2 - cos &+Ix&-I) = sin^2^ &+Ix&-I");
     EXPECT_EQ(TidyEquationBlanks("  -  2x& +  1  =  0 "), "-2x& + 1 = 0");
     EXPECT_EQ(TidyEquationBlanks("2C@ -  #RAD(2#RAD)  =  0"), "2C@ - #RAD(2#RAD) = 0");
     for (const auto& row : kTrigEquationTemplates) {

@@ -7,6 +7,7 @@
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
+#include "mathservices/utf8_text.h"
 
 namespace {
 std::string Separator(const std::string& relation) {
@@ -153,10 +154,11 @@ LinearItem RationalLinearItem(GeneratorWorkspace& ws, const std::string& relatio
 }
 
 std::string LinearAnswer(GeneratorWorkspace& ws, const LinearItem& item) {
-    const std::string value = FractionToMarkup(ws, item.numerator, item.denominator);
-    if (item.relation == "=") return "&+I x &-I  =  " + value;
+    // A negative fraction comes padded; beside the relation one blank is enough.
+    const std::string value = TrimBlanks(FractionToMarkup(ws, item.numerator, item.denominator));
+    if (item.relation == "=") return "&+I x&-I = " + value;
     const std::string relation = item.p < 0 ? FlippedRelation(item.relation) : item.relation;
-    return "&+I x &-I  " + relation + "  " + value;
+    return "&+I x&-I " + relation + " " + value;
 }
 
 namespace {
@@ -179,7 +181,7 @@ void LinearDrill(GeneratorWorkspace& ws, bool rational, bool inequation, int max
 void LinearEquationsInteger(GeneratorWorkspace& ws) {
     LinearDrill(ws, false, false, 26, kStatementColumns3, kSolutionColumns3);
     // This drill's answers follow the letter without the usual blank.
-    ws.Solution = ReplaceAll(ws.Solution, ")&-B &+I x &-I", ")&-B&+I x &-I");
+    ws.Solution = ReplaceAll(ws.Solution, ")&-B &+I x&-I", ")&-B&+I x&-I");
 }
 
 // Routine 8.

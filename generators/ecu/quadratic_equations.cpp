@@ -8,6 +8,7 @@
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
+#include "mathservices/utf8_text.h"
 #include "mathservices/poly_markup.h"
 
 namespace {
@@ -22,7 +23,8 @@ std::string ListAnswer(const std::string& letter, const std::vector<std::string>
     std::string out;
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (i > 0) out += ";    ";
-        out += Unknown(letter) + " = " + values[i];
+        // A negative fraction comes padded; beside "=" one blank is enough.
+        out += Unknown(letter) + " = " + TrimBlanks(values[i]);
     }
     return out;
 }

@@ -14,7 +14,7 @@ void TrigonometricEquations(GeneratorWorkspace& ws) {
     const int n = DrillItemCount(ws);
     // The interval's bounds carry the degree sign, as the answers do (not the ordinal sign).
     ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& "
-                   "[0\u00B0& ,& 360\u00B0).&LF";
+                   "[0\u00B0,& 360\u00B0).&LF";
     std::vector<int> used;
     std::vector<std::string> equations, answers;
     for (int i = 1; i <= n; ++i) {
@@ -28,7 +28,7 @@ void TrigonometricEquations(GeneratorWorkspace& ws) {
         used.push_back(k);
         const TrigEquationTemplate& row = kTrigEquationTemplates[static_cast<std::size_t>(k - 1)];
         const std::string lead = "&+B" + ItemLetter(i) + ")&-B  ";
-        equations.push_back(lead + ExpandTrigEquation(row.equation, kTrigSquareWithBlank));
+        equations.push_back(lead + TidyEquationBlanks(ExpandTrigEquation(row.equation, kTrigSquareWithBlank)));
         std::string answer = row.solutions;
         if (!answer.empty() && answer[0] >= 'a' && answer[0] <= 'z') answer[0] = static_cast<char>(answer[0] - 32);
         answers.push_back(ReplaceAll(ReplaceAll(lead + answer, "\u00BA", "\u00B0"), "@", "&+Ix&-I"));

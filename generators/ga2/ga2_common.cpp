@@ -5,6 +5,7 @@
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
+#include "mathservices/utf8_text.h"
 
 std::string PairMarkup(MathWorkspace& ws, double x, double y) {
     return "(" + NumberToExactMarkup(ws, x) + ",& & " + NumberToExactMarkup(ws, y) + ")";
@@ -63,7 +64,8 @@ void SplitSquare(double square, double& outside, double& inside) {
 std::string RootFractionMarkup(MathWorkspace& ws, double a, double square, double b) {
     double outside = 1, inside = 1;
     SplitSquare(square, outside, inside);
-    return RootFractionToMarkup(ws, a * outside, inside, b);
+    // A negative fraction comes padded; it stands after "=" or a word, where one blank is enough.
+    return TrimBlanks(RootFractionToMarkup(ws, a * outside, inside, b));
 }
 
 std::string RootMarkup(MathWorkspace& ws, double square) { return RootFractionMarkup(ws, 1, square, 1); }

@@ -6,6 +6,7 @@
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
+#include "mathservices/utf8_text.h"
 #include "mathservices/poly_markup.h"
 
 namespace {
@@ -122,7 +123,7 @@ void LinesOne(GeneratorWorkspace& ws) {
                        "    &+Ba)&-B The general equation of the line of each side.   &+Bb)&-B Area.&LF";
         ws.Solution = "&SP=10:&+Ba)&-B  &+IAB&-I:& " + General(ws, a, b - a) + "     &+IBC&-I:& " +
                       General(ws, b, c - b) + "     &+ICA&-I:& " + General(ws, c, a - c) + "&LF&SP=10:&+Bb)&-B  Area& =& " +
-                      FractionToMarkup(ws, std::fabs(Cross(b - a, c - a)), 2) + "&LF";
+                      TrimBlanks(FractionToMarkup(ws, std::fabs(Cross(b - a, c - a)), 2)) + "&LF";
         break;
     case 2: {
         // B differs from A by even steps, so that the midpoint is whole.
@@ -299,9 +300,9 @@ void LinesTwo(GeneratorWorkspace& ws) {
                        letter + "  for each of the following cases:" +
                        "  &+Ba)&-B& Lines are parallel.   &+Bb)&-B& Lines are perpendicular (orthogonal).   " +
                        "&+Bc)&-B& Line  &+IL_2&-I  passes through the point  " + Point(ws, "P", point) + ".&LF";
-        ws.Solution = "&SP=10:&+Ba)&-B  " + letter + "& =& " + FractionToMarkup(ws, a * e, b) + "     &+Bb)&-B  " + letter +
-                      "& =& " + FractionToMarkup(ws, -b * e, a) + "     &+Bc)&-B  " + letter + "& =& " +
-                      FractionToMarkup(ws, -(e * point.y + f), point.x) + "&LF";
+        ws.Solution = "&SP=10:&+Ba)&-B  " + letter + "& =& " + TrimBlanks(FractionToMarkup(ws, a * e, b)) + "     &+Bb)&-B  " + letter +
+                      "& =& " + TrimBlanks(FractionToMarkup(ws, -b * e, a)) + "     &+Bc)&-B  " + letter + "& =& " +
+                      TrimBlanks(FractionToMarkup(ws, -(e * point.y + f), point.x)) + "&LF";
         break;
     }
     case 2: {
@@ -310,7 +311,7 @@ void LinesTwo(GeneratorWorkspace& ws) {
         ws.Statement = "Find the value of parameter  " + letter + "  for which the line  " +
                        LinearFormToMarkup(Coefficient(0, letter), b, 0, c, true) + "   passes through the point  " +
                        Point(ws, "P", point) + ".&LF";
-        ws.Solution = "&SP=10:" + letter + "& =& " + FractionToMarkup(ws, -(b * point.y + c), point.x) + "&LF";
+        ws.Solution = "&SP=10:" + letter + "& =& " + TrimBlanks(FractionToMarkup(ws, -(b * point.y + c), point.x)) + "&LF";
         break;
     }
     case 3: {
@@ -336,7 +337,7 @@ void LinesTwo(GeneratorWorkspace& ws) {
                        LinearFormToMarkup(a, b, 0, c, true) + "  and the point& & &+IP&-I&(" + NumberToMarkup(px) +
                        ",& & " + letter + ")  is& & " + RootFractionMarkup(ws, std::fabs(top), n2, n2) + ".&LF";
         ws.Solution = "&SP=10:" + letter + "& =& " + NumberToMarkup(k1) + kOr + letter + "& =& " +
-                      FractionToMarkup(ws, k2num, b) + "&LF";
+                      TrimBlanks(FractionToMarkup(ws, k2num, b)) + "&LF";
         break;
     }
     case 4: {
@@ -364,7 +365,7 @@ void LinesTwo(GeneratorWorkspace& ws) {
                        (parallel ? "parallel" : "perpendicular (orthogonal)") +
                        " and the line& &+IL_2&-I  passes through the point& & " + Point(ws, "P", point) + ".&LF";
         ws.Solution = "&SP=10:" + letter + "& =& " +
-                      (parallel ? FractionToMarkup(ws, a * e, b) : FractionToMarkup(ws, -a * b, e)) + ",   " + second +
+                      TrimBlanks(parallel ? FractionToMarkup(ws, a * e, b) : FractionToMarkup(ws, -a * b, e)) + ",   " + second +
                       "& =& " + NumberToMarkup(-(b * point.x + e * point.y)) + "&LF";
         break;
     }

@@ -6,6 +6,7 @@
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
+#include "mathservices/utf8_text.h"
 
 namespace {
 std::string AngleBetween(MathWorkspace& ws, double ux, double uy, double vx, double vy) {
@@ -51,8 +52,8 @@ void VectorsOne(GeneratorWorkspace& ws) {
                        RootMarkup(ws, l0 * l0 + a * a) + ".  &+Bb)&-B&  Vectors are parallel." +
                        "  &+Bc)&-B& Vectors are orthogonal (perpendicular).&LF";
         ws.Solution = "&SP=10:&+Ba)&-B  " + letter + "& =& ±& " + NumberToMarkup(std::fabs(l0)) +
-                      "     &+Bb)&-B  " + letter + "& =& " + FractionToMarkup(ws, a * b, c) + "     &+Bc)&-B  " +
-                      letter + "& =& " + FractionToMarkup(ws, -a * c, b) + "&LF";
+                      "     &+Bb)&-B  " + letter + "& =& " + TrimBlanks(FractionToMarkup(ws, a * b, c)) + "     &+Bc)&-B  " +
+                      letter + "& =& " + TrimBlanks(FractionToMarkup(ws, -a * c, b)) + "&LF";
         break;
     }
     case 1: {
@@ -118,7 +119,7 @@ void VectorsOne(GeneratorWorkspace& ws) {
                        "  in the direction of  " + VectorMarkup(ws, "v", vx, vy) + ".&LF";
         // A magnitude is never negative: the length of the projection, whatever the side.
         ws.Solution = "&SP=10:Magnitude of the projection& =& " + RootFractionMarkup(ws, std::fabs(dot), v2, v2) +
-                      "     Vector projection& =& (" + FractionToMarkup(ws, dot * vx, v2) + ",& & " +
+                      "     Vector projection& =& (" + TrimBlanks(FractionToMarkup(ws, dot * vx, v2)) + ",& & " +
                       FractionToMarkup(ws, dot * vy, v2) + ")&LF";
         break;
     }
@@ -270,7 +271,7 @@ void VectorsTwo(GeneratorWorkspace& ws) {
                        PointMarkup(ws, "B", ax + dx, ay + dy) + "  and  " +
                        PointMarkup(ws, "C", ax - k * dy, ay + k * dx) +
                        ".  If the right angle is at the point &+IA&-I, calculate the area of this triangle.&LF";
-        ws.Solution = "&SP=10:Area& =& " + FractionToMarkup(ws, k * (dx * dx + dy * dy), 2) + "&LF";
+        ws.Solution = "&SP=10:Area& =& " + TrimBlanks(FractionToMarkup(ws, k * (dx * dx + dy * dy), 2)) + "&LF";
         break;
     }
     default: {

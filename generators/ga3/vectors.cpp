@@ -217,7 +217,7 @@ void SpaceVectors(GeneratorWorkspace& ws) {
         ws.Statement = "Find the value of parameter  " + h + "  for which vectors  " + VectorMarkup(ws, "u", p.u) +
                        ",  " + VectorMarkup(ws, "v", p.v) + "  and  " + VectorMarkup(ws, "w", p.w, texts) +
                        "  are linearly independent.&LF";
-        ws.Solution = "&SP=10:" + h + "_ &!=_ " + number(p.answers[0]) + "&LF";
+        ws.Solution = "&SP=10:" + h + " &!= " + number(p.answers[0]) + "&LF";
         break;
     }
     case 8:

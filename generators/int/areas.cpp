@@ -19,7 +19,7 @@ std::string Num(double v) { return PlainNumberText(v); }
 // "&iorden" prints the sign "approximately equal" (≈); "&aprox" would print the
 // congruence sign (≅), which reads wrong here.
 std::string Approximately(MathWorkspace& ws, double value) {
-    return "  &iorden  " + NumberToMarkup(RoundAtPosition(ws, value, -3));
+    return " &iorden " + NumberToMarkup(RoundAtPosition(ws, value, -3));
 }
 
 std::string Closing() { return " u^2.&LF"; }

@@ -365,7 +365,7 @@ void DerivativeDrill(GeneratorWorkspace& ws, DerivativeItem (*make)(GeneratorWor
     std::vector<std::string> statementItems, solutionItems;
     for (int i = 1; i <= count; ++i) {
         statementItems.push_back("&+B" + ItemLetter(i) + ")&-B  &+Iy =&-I " + statements[i - 1]);
-        solutionItems.push_back("&+B" + ItemLetter(i) + ")&-B  &+Iy&-I_ '_ = " + solutions[i - 1]);
+        solutionItems.push_back("&+B" + ItemLetter(i) + ")&-B  &+Iy&-I_ ' = " + solutions[i - 1]);
     }
     // A derivative too wide for half the line gets a line of its own.
     const ColumnMarks& statementColumns = FitColumns(statementItems, kDerivativeColumns, {&kDerivativeColumn});

@@ -50,6 +50,16 @@ std::string SimplifiedRoot(GeneratorWorkspace& ws, double a, double r) {
 }
 
 // The modulus √m of a polar form, simplified.
+// The cartesian form after "= ": a number without a real part begins with the spaced sign
+// and the spaced unit of a term ("& -& 4&+I& i&-I"); there it is "-4 i", "i" or "-i", with
+// one blank after "=" and none after the unary minus.
+std::string CartesianAfterEquals(std::string text) {
+    if (text.rfind("& -& ", 0) == 0) text = "-" + text.substr(5);
+    const std::size_t sign = text.rfind('-', 0) == 0 ? 1 : 0;
+    if (text.compare(sign, 6, "&+I& i") == 0) text.replace(sign, 6, "&+Ii");
+    return text;
+}
+
 std::string ModulusText(GeneratorWorkspace& ws, double modulusSquared) { return SimplifiedRoot(ws, 1, modulusSquared); }
 
 // A polar form whose modulus is written from the square of the modulus given exactly
@@ -224,8 +234,8 @@ void MultiplyingAndDividingComplexNumbersInPolarForm(GeneratorWorkspace& ws) {
             const std::string text = "#NES(()" + ComplexPolarToMarkup(ws, first.real(), first.imag(), unit) +
                                      (kind == 1 ? "#NES)  ·  #NES(()" : "#NES)  :  #NES(()") +
                                      ComplexPolarToMarkup(ws, b.real(), b.imag(), unit) + "#NES)";
-            return ItemTexts{text, PolarText(ws, result.real(), result.imag(), unit) + "  =  " +
-                                       ComplexToMarkup(ws, result.real(), result.imag())};
+            return ItemTexts{text, PolarText(ws, result.real(), result.imag(), unit) + " = " +
+                                       CartesianAfterEquals(ComplexToMarkup(ws, result.real(), result.imag()))};
         });
     }
     drill.WriteStatement(kComplexHeads);
@@ -254,8 +264,8 @@ void PowersOfComplexNumbers(GeneratorWorkspace& ws) {
             const double half = std::floor(n / 2.0);
             const std::string modulus = n % 2 == 0 ? PlainNumberText(std::pow(m, half))
                                                    : SimplifiedRoot(ws, std::pow(m, half), m);
-            return ItemTexts{text, PolarText(ws, modulus, p.real(), p.imag(), unit) + "  =  " +
-                                       ComplexToMarkup(ws, p.real(), p.imag())};
+            return ItemTexts{text, PolarText(ws, modulus, p.real(), p.imag(), unit) + " = " +
+                                       CartesianAfterEquals(ComplexToMarkup(ws, p.real(), p.imag()))};
         });
     }
     drill.WriteStatement(kComplexHeads);

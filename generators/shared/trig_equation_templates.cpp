@@ -1,5 +1,7 @@
 #include "generators/shared/trig_equation_templates.h"
 
+#include <vector>
+
 #include "mathservices/number_markup.h"
 
 // The 138 equations in short-hand, each with its solutions in [0°, 360°), grouped by
@@ -154,4 +156,70 @@ std::string ExpandTrigEquation(const std::string& shorthand, const std::string& 
     text = ReplaceAll(text, "S", "sin");
     text = ReplaceAll(text, "C", "cos");
     return ReplaceAll(text, "T", "tan");
+}
+
+namespace {
+// A token of the markup: a blank, a style switch (prints nothing), or anything else.
+struct BlankToken {
+    std::string text;
+    bool blank = false;
+    bool invisible = false;
+};
+
+std::vector<BlankToken> SplitForBlanks(const std::string& text) {
+    std::vector<BlankToken> tokens;
+    std::size_t p = 0;
+    while (p < text.size()) {
+        const char c = text[p];
+        if (c == '&' && p + 2 < text.size() && (text[p + 1] == '+' || text[p + 1] == '-')) {
+            tokens.push_back({text.substr(p, 3), false, true});
+            p += 3;
+        } else if ((c == '&' || c == '^' || c == '_') && p + 1 < text.size()) {
+            // "& " is a hard space and "^ " a raised one: codes, not blanks.
+            tokens.push_back({text.substr(p, 2), false, false});
+            p += 2;
+        } else {
+            tokens.push_back({std::string(1, c), c == ' ', false});
+            p += 1;
+        }
+    }
+    return tokens;
+}
+
+bool IsRelationToken(const std::string& t) { return t == "=" || t == "<" || t == ">"; }
+} // namespace
+
+std::string TidyEquationBlanks(const std::string& text) {
+    const std::vector<BlankToken> tokens = SplitForBlanks(text);
+    // The printed tokens already kept, for looking back past switches and blanks.
+    std::vector<std::string> printed;
+    std::string out;
+    bool pendingBlank = false;
+    const auto nextPrinted = [&tokens](std::size_t i) -> std::string {
+        for (std::size_t j = i + 1; j < tokens.size(); ++j)
+            if (!tokens[j].blank && !tokens[j].invisible) return tokens[j].text;
+        return "";
+    };
+    for (std::size_t i = 0; i < tokens.size(); ++i) {
+        const BlankToken& t = tokens[i];
+        if (t.invisible) {
+            out += t.text;
+            continue;
+        }
+        if (t.blank) {
+            if (pendingBlank || printed.empty()) continue;
+            const std::string next = nextPrinted(i);
+            const std::string& last = printed.back();
+            const std::string beforeLast = printed.size() >= 2 ? printed[printed.size() - 2] : "";
+            const bool unaryMinus = last == "-" && (printed.size() == 1 || beforeLast == "(" || IsRelationToken(beforeLast));
+            if (next.empty() || next == ")" || next == "," || last == "(" || unaryMinus) continue;
+            out += ' ';
+            pendingBlank = true;
+            continue;
+        }
+        out += t.text;
+        printed.push_back(t.text);
+        pendingBlank = false;
+    }
+    return out;
 }

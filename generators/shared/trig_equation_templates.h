@@ -22,3 +22,8 @@ inline constexpr const char* kTrigSquareWithBlank = "^2 &+Ix&-I ";
 // "@" the unknown x, "º" the degree sign, and S, C, T the names sin, cos, tan. The
 // order matters: the longer patterns go first.
 std::string ExpandTrigEquation(const std::string& shorthand, const std::string& squareWith);
+
+// An expanded equation with its blanks as a maths book sets them: one blank between terms
+// and signs, none after "(", before ")" or ",", after a unary minus, or at either end.
+// The short-hand pads its signs, and "@" brings a blank of its own on each side.
+std::string TidyEquationBlanks(const std::string& text);

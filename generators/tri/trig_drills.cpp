@@ -68,15 +68,15 @@ void TrigonometricIdentities(GeneratorWorkspace& ws) {
 // Routine 4: equations whose solutions in [0°, 360°) come from the shared table.
 void TrigonometricEquationsList(GeneratorWorkspace& ws) {
     const int n = DrillItemCount(ws);
-    ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0\u00B0& "
-                   ",& 360\u00B0).&LF";
+    ws.Statement = "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0\u00B0,& "
+                   "360\u00B0).&LF";
     std::vector<int> used;
     std::vector<std::string> equations, answers;
     for (int i = 1; i <= n; ++i) {
         const int k = DrawNewTemplate(ws, kTrigEquationCount, used);
         const TrigEquationTemplate& row = kTrigEquationTemplates[static_cast<std::size_t>(k - 1)];
         const std::string lead = "&+B" + ItemLetter(i) + ")&-B ";
-        equations.push_back(lead + ExpandTrigEquation(row.equation, kTrigSquareWithScriptBlank));
+        equations.push_back(lead + TidyEquationBlanks(ExpandTrigEquation(row.equation, kTrigSquareWithScriptBlank)));
         std::string answer = ExpandTrigEquation(row.solutions, kTrigSquareWithScriptBlank);
         if (!answer.empty() && answer[0] >= 'a' && answer[0] <= 'z') answer[0] = static_cast<char>(answer[0] - 32);
         answers.push_back(lead + answer);

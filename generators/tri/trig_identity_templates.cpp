@@ -3,9 +3,9 @@
 // The 34 identities in short-hand: "@" is the variable, a digit before it a multiple,
 // "^2@" a power; Z, K, T are sin, cos, tan; A and B the two angles of a sum.
 const std::array<const char*, kTrigIdentityCount> kTrigIdentityTemplates = {
-    "(K@+ Z@)^2  =  1 + Z2@",
+    "(K@+ Z@)^2 = 1 + Z2@",
     "Z3@= Z@(3K^2@- Z^2@)",
-    "#COC(Z(45º +@)#N)(K45º · K@#COC)  =  1 + T@",
+    "#COC(Z(45º +@)#N)(K45º · K@#COC) = 1 + T@",
     "#COC(K@- K3@#N)(Z3@- Z@#COC) = T2@",
     "#COC(Z2@#N)(1 + K2@#COC) = T@",
     "#COC(sec@- K@#N)(cosec@- Z@#COC) = T^3@",
@@ -18,7 +18,7 @@ const std::array<const char*, kTrigIdentityCount> kTrigIdentityTemplates = {
     "#COC(Z@· K@#N)(K^2@- Z^2@#COC) = #COC(T@#N)(1 - T^2@#COC)",
     "#COC(K(A + B) + K(A - B)#N)(Z(A + B) + Z(A - B)#COC) = cotan A",
     "Z@+ K@= #SQR(2#SQR) K#NES(()#COC(&pi#N)(4#COC) -@#NES)",
-    "K(A + B) · K(A - B)  =  K^2A - Z^2B",
+    "K(A + B) · K(A - B) = K^2A - Z^2B",
     "#COC(K@+ Z@#N)(K@- Z@#COC) - #COC(K@- Z@#N)(K@+ Z@#COC) = 2T2@",
     "#COC(2Z@- Z2@#N)(2Z@+ Z2@#COC) = #COC(1 - K@#N)(1 + K@#COC)",
     "1 + 2T^2@+ T^4@= sec^4@",
@@ -28,7 +28,7 @@ const std::array<const char*, kTrigIdentityCount> kTrigIdentityTemplates = {
     "#COC(1#N)(Z^2@· K^2@#COC) = sec^2@+ cosec^2@",
     "cotan@· sec@= cosec@",
     "Z B · K(A-B) + K B · Z(A-B) = Z A",
-    "cotan(A + B) = #COC(cotan A · cotan B  -  1#N)(cotan A  +  cotan B#COC)",
+    "cotan(A + B) = #COC(cotan A · cotan B - 1#N)(cotan A + cotan B#COC)",
     "#COC(Z2@#N)(1 - K^2@#COC)·#COC(Z2@#N)(K@#COC) = 4K@",
     "#COC(Z3@- Z5@#N)(K3@+ K5@#COC) = -T@",
     "#COC(cotan@- T@#N)(Z@· K@#COC) = cosec^2@- sec^2@",
@@ -36,5 +36,5 @@ const std::array<const char*, kTrigIdentityCount> kTrigIdentityTemplates = {
     "#COC(cosec@#N)(1 + cosec@#COC) - #COC(cosec@#N)(1 - cosec@#COC) = 2sec^2@",
     "#COC(K^2@#N)(1 - Z@#COC) = 1 + Z@",
     "#COC(Z4@- Z2@#N)(K4@+ K2@#COC) = T@",
-    "#COC(Z@- Z3@#N)(Z^2@- K^2@#COC)= 2Z@",
+    "#COC(Z@- Z3@#N)(Z^2@- K^2@#COC) = 2Z@",
 };

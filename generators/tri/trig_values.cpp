@@ -5,6 +5,7 @@
 #include "mathservices/arithmetic.h"
 #include "mathservices/faults.h"
 #include "mathservices/number_markup.h"
+#include "mathservices/utf8_text.h"
 
 std::string SimplifiedRoot(GeneratorWorkspace& ws, double a, double r, double b) {
     for (double k = 2; k * k <= r; ++k) {
@@ -13,7 +14,8 @@ std::string SimplifiedRoot(GeneratorWorkspace& ws, double a, double r, double b)
             a *= k;
         }
     }
-    return RootFractionToMarkup(ws, a, r, b);
+    // A negative fraction comes padded; the value stands after "=", where one blank is enough.
+    return TrimBlanks(RootFractionToMarkup(ws, a, r, b));
 }
 
 namespace {

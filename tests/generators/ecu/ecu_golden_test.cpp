@@ -10,8 +10,8 @@ const Golden kGolden[] = {
      "Solve the following linear equations:&LF&SP=5:&+Ba)&-B&+I 10&+Ix&-I& -& 1& =& 69&-I&SP=29:&+Bb)&-B&+"
      "I -7(&+Ix&-I& +& 3)& =& -84&-I&SP=53:&+Bc)&-B&+I 8(&+Ix&-I& +& 3)& =& -24&-I&LF&SP=5:&+Bd)&-B&+I -2("
      "&+Ix&-I& +& 1)& =& 0&-I&SP=29:&+Be)&-B&+I -3(&+Ix&-I& +& 7)& =& -12&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B&+I x &-I  =  7&SP=40:&-I&+Bb)&-B&+I x &-I  =  9&SP=70:&-I&+Bc)&-B&+I x &-I  =  -6"
-     "&LF&SP=10:&-I&+Bd)&-B&+I x &-I  =  -1&SP=40:&-I&+Be)&-B&+I x &-I  =  -3&LF"},
+     "&SP=10:&-I&+Ba)&-B&+I x&-I = 7&SP=40:&-I&+Bb)&-B&+I x&-I = 9&SP=70:&-I&+Bc)&-B&+I x&-I = -6&LF&SP=10"
+     ":&-I&+Bd)&-B&+I x&-I = -1&SP=40:&-I&+Be)&-B&+I x&-I = -3&LF"},
     {"0010007001120302",
      "Solve the following linear equations:&LF&SP=5:&+Ba)&-B&+I -8(&+Ix&-I& +& 7)& =& -112&-I&SP=43:&+Bb)&"
      "-B&+I 9&+Ix&-I& +& 3& =& 4&+Ix&-I& +& 63&-I&LF&SP=5:&+Bc)&-B&+I 4(&+Ix&-I& -& 1)& =& 12&-I&SP=43:&+B"
@@ -20,14 +20,13 @@ const Golden kGolden[] = {
      "x&-I&-I&SP=43:&+Bh)&-B&+I 7&+Ix&-I& =& 5&+Ix&-I& -& 6&-I&LF&SP=5:&+Bi)&-B&+I 7&+Ix&-I& -& 11& =& &+I"
      "x&-I& -& 35&-I&SP=43:&+Bj)&-B&+I 9(&+Ix&-I& +& 1)& =& -&+Ix&-I& +& 119&-I&LF&SP=5:&+Bk)&-B&+I 7&+Ix&"
      "-I& +& 5& =& -23&-I&SP=43:&+Bl)&-B&+I 8&+Ix&-I& +& 8& =& -&+Ix&-I& +& 89&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B&+I x &-I  =  7&SP=40:&-I&+Bb)&-B&+I x &-I  =  12&SP=70:&-I&+Bc)&-B&+I x &-I  =  4"
-     "&LF&SP=10:&-I&+Bd)&-B&+I x &-I  =  -1&SP=40:&-I&+Be)&-B&+I x &-I  =  -10&SP=70:&-I&+Bf)&-B&+I x &-I "
-     " =  4&LF&SP=10:&-I&+Bg)&-B&+I x &-I  =  -3&SP=40:&-I&+Bh)&-B&+I x &-I  =  -3&SP=70:&-I&+Bi)&-B&+I x "
-     "&-I  =  -4&LF&SP=10:&-I&+Bj)&-B&+I x &-I  =  11&SP=40:&-I&+Bk)&-B&+I x &-I  =  -4&SP=70:&-I&+Bl)&-B&"
-     "+I x &-I  =  9&LF"},
+     "&SP=10:&-I&+Ba)&-B&+I x&-I = 7&SP=40:&-I&+Bb)&-B&+I x&-I = 12&SP=70:&-I&+Bc)&-B&+I x&-I = 4&LF&SP=10"
+     ":&-I&+Bd)&-B&+I x&-I = -1&SP=40:&-I&+Be)&-B&+I x&-I = -10&SP=70:&-I&+Bf)&-B&+I x&-I = 4&LF&SP=10:&-I"
+     "&+Bg)&-B&+I x&-I = -3&SP=40:&-I&+Bh)&-B&+I x&-I = -3&SP=70:&-I&+Bi)&-B&+I x&-I = -4&LF&SP=10:&-I&+Bj"
+     ")&-B&+I x&-I = 11&SP=40:&-I&+Bk)&-B&+I x&-I = -4&SP=70:&-I&+Bl)&-B&+I x&-I = 9&LF"},
     {"0018998999011010",
      "Solve these linear equations:&LF&SP=5:&+Ba)&-B&+I -9&+Ix&-I& +& 11& =& &+Ix&-I& +& 111&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B&+I x &-I  =  -10&LF"},
+     "&SP=10:&-I&+Ba)&-B&+I x&-I = -10&LF"},
     {"0021230456050101",
      "Solve these quadratic equations:&LF&SP=5:&+Ba)&-B&+I &+Ix&-I^2& +& 3&+Ix&-I& -& 10& =& 0&-I&SP=29:&+"
      "Bb)&-B&+I &+Ix&-I^2& +& 9&+Ix&-I& +& 8& =& 0&-I&SP=53:&+Bc)&-B&+I 3&+Ix&-I^2& +& 8&+Ix&-I& +& 3& =& "
@@ -181,9 +180,9 @@ const Golden kGolden[] = {
      "#N)(7#COC)& =& 4&-I&SP=43:&+Bd)&-B&+I #COC(-9&+Ix&-I& -& 3#N)(7#COC)& =& #COC(-6&+Ix&-I& +& 1#N)(7#C"
      "OC)&-I&LF&SP=5:&+Be)&-B&+I -#COC(19#N)(3#COC)(&+Ix&-I& -& 6)& =& #COC(-5&+Ix&-I& -& 6#N)(3#COC)& +& "
      "6&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  =    #COC(-9#N)(7#COC)&SP=50:&-I&+Bb)&-B &+I x &-I  =  #COC(49#N)(8#CO"
-     "C)&LF&SP=10:&-I&+Bc)&-B &+I x &-I  =    #COC(-14#N)(9#COC)&SP=50:&-I&+Bd)&-B &+I x &-I  =    #COC(-4"
-     "#N)(3#COC)&LF&SP=10:&-I&+Be)&-B &+I x &-I  =  #COC(51#N)(7#COC)&LF"},
+     "&SP=10:&-I&+Ba)&-B &+I x&-I = #COC(-9#N)(7#COC)&SP=50:&-I&+Bb)&-B &+I x&-I = #COC(49#N)(8#COC)&LF&SP"
+     "=10:&-I&+Bc)&-B &+I x&-I = #COC(-14#N)(9#COC)&SP=50:&-I&+Bd)&-B &+I x&-I = #COC(-4#N)(3#COC)&LF&SP=1"
+     "0:&-I&+Be)&-B &+I x&-I = #COC(51#N)(7#COC)&LF"},
     {"0060007001120302",
      "Solve the following linear equations:&LF&SP=5:&+Ba)&-B&+I #COC(7#N)(5#COC)(&+Ix&-I& -& 3)& =& #COC(-"
      "7&+Ix&-I& -& 5#N)(6#COC)& +& #COC(7#N)(5#COC)&-I&SP=43:&+Bb)&-B&+I #COC(8&+Ix&-I& -& 2#N)(3#COC)& =&"
@@ -197,16 +196,16 @@ const Golden kGolden[] = {
      "P=43:&+Bj)&-B&+I #COC(4&+Ix&-I& -& 6#N)(7#COC)& -& #COC(7&+Ix&-I& +& 3#N)(9#COC)& =& -8&-I&LF&SP=5:&"
      "+Bk)&-B&+I #COC(4&+Ix&-I& -& 5#N)(3#COC)& =& #COC(9&+Ix&-I& +& 3#N)(2#COC)&-I&SP=43:&+Bl)&-B&+I #COC"
      "(-5&+Ix&-I& +& 1#N)(9#COC)& -& #COC(&+Ix&-I& +& 8#N)(3#COC)& =& -5&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  =  #COC(13#N)(7#COC)&SP=50:&-I&+Bb)&-B &+I x &-I  =    #COC(-13#N)(11#"
-     "COC)&LF&SP=10:&-I&+Bc)&-B &+I x &-I  =  -5&SP=50:&-I&+Bd)&-B &+I x &-I  =    #COC(-46#N)(9#COC)&LF&S"
-     "P=10:&-I&+Be)&-B &+I x &-I  =  #COC(5#N)(4#COC)&SP=50:&-I&+Bf)&-B &+I x &-I  =    #COC(-23#N)(5#COC)"
-     "&LF&SP=10:&-I&+Bg)&-B &+I x &-I  =    #COC(-11#N)(3#COC)&SP=50:&-I&+Bh)&-B &+I x &-I  =  #COC(59#N)("
-     "6#COC)&LF&SP=10:&-I&+Bi)&-B &+I x &-I  =    #COC(-43#N)(11#COC)&SP=50:&-I&+Bj)&-B &+I x &-I  =  33&L"
-     "F&SP=10:&-I&+Bk)&-B &+I x &-I  =  -1&SP=50:&-I&+Bl)&-B &+I x &-I  =  #COC(11#N)(4#COC)&LF"},
+     "&SP=10:&-I&+Ba)&-B &+I x&-I = #COC(13#N)(7#COC)&SP=50:&-I&+Bb)&-B &+I x&-I = #COC(-13#N)(11#COC)&LF&"
+     "SP=10:&-I&+Bc)&-B &+I x&-I = -5&SP=50:&-I&+Bd)&-B &+I x&-I = #COC(-46#N)(9#COC)&LF&SP=10:&-I&+Be)&-B"
+     " &+I x&-I = #COC(5#N)(4#COC)&SP=50:&-I&+Bf)&-B &+I x&-I = #COC(-23#N)(5#COC)&LF&SP=10:&-I&+Bg)&-B &+"
+     "I x&-I = #COC(-11#N)(3#COC)&SP=50:&-I&+Bh)&-B &+I x&-I = #COC(59#N)(6#COC)&LF&SP=10:&-I&+Bi)&-B &+I "
+     "x&-I = #COC(-43#N)(11#COC)&SP=50:&-I&+Bj)&-B &+I x&-I = 33&LF&SP=10:&-I&+Bk)&-B &+I x&-I = -1&SP=50:"
+     "&-I&+Bl)&-B &+I x&-I = #COC(11#N)(4#COC)&LF"},
     {"0068998999011010",
      "Solve these linear equations:&LF&SP=5:&+Ba)&-B&+I #COC(&+Ix&-I& +& 6#N)(7#COC)& -& #COC(-6&+Ix&-I& -"
      "& 8#N)(3#COC)& =& 4&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  =  #COC(2#N)(9#COC)&LF"},
+     "&SP=10:&-I&+Ba)&-B &+I x&-I = #COC(2#N)(9#COC)&LF"},
     {"0071230456050101",
      "Solve these linear inequations:&LF&SP=5:&+Ba)&-B&+I #COC(6&+Ix&-I& +& 5#N)(7#COC)& -& #COC(-8&+Ix&-I"
      "& -& 6#N)(7#COC)& <& -1&-I&SP=43:&+Bb)&-B&+I #COC(2#N)(7#COC)(&+Ix&-I& -& 7)& &<=& #COC(-2&+Ix&-I& +"
@@ -214,9 +213,9 @@ const Golden kGolden[] = {
      "#N)(9#COC)&-I&SP=43:&+Bd)&-B&+I #COC(-&+Ix&-I& -& 3#N)(8#COC)& &>=& #COC(-&+Ix&-I& -& 7#N)(5#COC)&-I"
      "&LF&SP=5:&+Be)&-B&+I #COC(4&+Ix&-I& +& 5#N)(7#COC)& -& #COC(5&+Ix&-I& +& 4#N)(8#COC)& &<=& #COC(1#N)"
      "(3#COC)&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  <    #COC(-9#N)(7#COC)&SP=50:&-I&+Bb)&-B &+I x &-I  &<=  #COC(49#N)(8#"
-     "COC)&LF&SP=10:&-I&+Bc)&-B &+I x &-I  &>=    #COC(-7#N)(11#COC)&SP=50:&-I&+Bd)&-B &+I x &-I  &>=    #"
-     "COC(-41#N)(3#COC)&LF&SP=10:&-I&+Be)&-B &+I x &-I  &>=    #COC(-20#N)(9#COC)&LF"},
+     "&SP=10:&-I&+Ba)&-B &+I x&-I < #COC(-9#N)(7#COC)&SP=50:&-I&+Bb)&-B &+I x&-I &<= #COC(49#N)(8#COC)&LF&"
+     "SP=10:&-I&+Bc)&-B &+I x&-I &>= #COC(-7#N)(11#COC)&SP=50:&-I&+Bd)&-B &+I x&-I &>= #COC(-41#N)(3#COC)&"
+     "LF&SP=10:&-I&+Be)&-B &+I x&-I &>= #COC(-20#N)(9#COC)&LF"},
     {"0070007001120302",
      "Solve these linear inequations:&LF&SP=5:&+Ba)&-B&+I #COC(-5&+Ix&-I& -& 2#N)(8#COC)& -& #COC(-7&+Ix&-"
      "I& -& 6#N)(8#COC)& &<=& -#COC(3#N)(5#COC)&-I&SP=43:&+Bb)&-B&+I #COC(1#N)(4#COC)(&+Ix&-I& -& 2)& >& #"
@@ -231,22 +230,22 @@ const Golden kGolden[] = {
      "I&LF&SP=5:&+Bk)&-B&+I #COC(-4&+Ix&-I& +& 1#N)(4#COC)& -& #COC(-8&+Ix&-I& -& 1#N)(4#COC)& <& #COC(3#N"
      ")(5#COC)&-I&SP=43:&+Bl)&-B&+I #COC(3&+Ix&-I& +& 2#N)(9#COC)& -& #COC(7&+Ix&-I& -& 8#N)(9#COC)& <& #C"
      "OC(5#N)(9#COC)&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  &<=    #COC(-22#N)(5#COC)&SP=50:&-I&+Bb)&-B &+I x &-I  <  -4&LF&SP=10:"
-     "&-I&+Bc)&-B &+I x &-I  >  1&SP=50:&-I&+Bd)&-B &+I x &-I  >    #COC(-11#N)(6#COC)&LF&SP=10:&-I&+Be)&-"
-     "B &+I x &-I  &>=  #COC(19#N)(11#COC)&SP=50:&-I&+Bf)&-B &+I x &-I  >  11&LF&SP=10:&-I&+Bg)&-B &+I x &"
-     "-I  &<=    #COC(-11#N)(3#COC)&SP=50:&-I&+Bh)&-B &+I x &-I  &>=  #COC(59#N)(6#COC)&LF&SP=10:&-I&+Bi)&"
-     "-B &+I x &-I  <  #COC(21#N)(4#COC)&SP=50:&-I&+Bj)&-B &+I x &-I  <  3&LF&SP=10:&-I&+Bk)&-B &+I x &-I "
-     " <  #COC(1#N)(10#COC)&SP=50:&-I&+Bl)&-B &+I x &-I  >  #COC(5#N)(4#COC)&LF"},
+     "&SP=10:&-I&+Ba)&-B &+I x&-I &<= #COC(-22#N)(5#COC)&SP=50:&-I&+Bb)&-B &+I x&-I < -4&LF&SP=10:&-I&+Bc)"
+     "&-B &+I x&-I > 1&SP=50:&-I&+Bd)&-B &+I x&-I > #COC(-11#N)(6#COC)&LF&SP=10:&-I&+Be)&-B &+I x&-I &>= #"
+     "COC(19#N)(11#COC)&SP=50:&-I&+Bf)&-B &+I x&-I > 11&LF&SP=10:&-I&+Bg)&-B &+I x&-I &<= #COC(-11#N)(3#CO"
+     "C)&SP=50:&-I&+Bh)&-B &+I x&-I &>= #COC(59#N)(6#COC)&LF&SP=10:&-I&+Bi)&-B &+I x&-I < #COC(21#N)(4#COC"
+     ")&SP=50:&-I&+Bj)&-B &+I x&-I < 3&LF&SP=10:&-I&+Bk)&-B &+I x&-I < #COC(1#N)(10#COC)&SP=50:&-I&+Bl)&-B"
+     " &+I x&-I > #COC(5#N)(4#COC)&LF"},
     {"0078998999011010",
      "Solve these linear inequations:&LF&SP=5:&+Ba)&-B&+I #COC(&+Ix&-I& +& 6#N)(7#COC)& -& #COC(-6&+Ix&-I&"
      " -& 8#N)(3#COC)& >& 4&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  >  #COC(2#N)(9#COC)&LF"},
+     "&SP=10:&-I&+Ba)&-B &+I x&-I > #COC(2#N)(9#COC)&LF"},
     {"0081230456050101",
      "Solve these linear inequations:&LF&SP=5:&+Ba)&-B&+I 5(&+Ix&-I& +& 4)& <& 75&-I&SP=29:&+Bb)&-B&+I 6(&"
      "+Ix&-I& +& 1)& &>=& -60&-I&SP=53:&+Bc)&-B&+I 8(&+Ix&-I& -& 2)& &<=& -24&-I&LF&SP=5:&+Bd)&-B&+I -5&+I"
      "x&-I& +& 11& <& -&+Ix&-I& +& 7&-I&SP=29:&+Be)&-B&+I -7(&+Ix&-I& +& 4)& &>=& -98&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  <  11&SP=40:&-I&+Bb)&-B &+I x &-I  &>=  -11&SP=70:&-I&+Bc)&-B &+I x &-"
-     "I  &<=  -1&LF&SP=10:&-I&+Bd)&-B &+I x &-I  >  1&SP=40:&-I&+Be)&-B &+I x &-I  &<=  10&LF"},
+     "&SP=10:&-I&+Ba)&-B &+I x&-I < 11&SP=40:&-I&+Bb)&-B &+I x&-I &>= -11&SP=70:&-I&+Bc)&-B &+I x&-I &<= -"
+     "1&LF&SP=10:&-I&+Bd)&-B &+I x&-I > 1&SP=40:&-I&+Be)&-B &+I x&-I &<= 10&LF"},
     {"0080007001120302",
      "Solve these linear inequations:&LF&SP=5:&+Ba)&-B&+I 4(&+Ix&-I& +& 1)& &<=& 32&-I&SP=29:&+Bb)&-B&+I 7"
      "(&+Ix&-I& +& 6)& &>=& 5&+Ix&-I& +& 38&-I&SP=53:&+Bc)&-B&+I 4&+Ix&-I& +& 10& >& 5&+Ix&-I& +& 20&-I&LF"
@@ -255,14 +254,14 @@ const Golden kGolden[] = {
      " 3)& >& 48&-I&SP=29:&+Bh)&-B&+I 3(&+Ix&-I& -& 2)& >& -3&-I&SP=53:&+Bi)&-B&+I -9(&+Ix&-I& +& 1)& &>=&"
      " -&+Ix&-I& -& 73&-I&LF&SP=5:&+Bj)&-B&+I 10&+Ix&-I& +& 9& <& 3&+Ix&-I& +& 37&-I&SP=29:&+Bk)&-B&+I 9(&"
      "+Ix&-I& +& 7)& &<=& -18&-I&SP=53:&+Bl)&-B&+I -4&+Ix&-I& -& 7& &<=& 8&+Ix&-I& -& 43&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  &<=  7&SP=40:&-I&+Bb)&-B &+I x &-I  &>=  -2&SP=70:&-I&+Bc)&-B &+I x &-"
-     "I  <  -10&LF&SP=10:&-I&+Bd)&-B &+I x &-I  &<=  -4&SP=40:&-I&+Be)&-B &+I x &-I  <  4&SP=70:&-I&+Bf)&-"
-     "B &+I x &-I  &<=  -8&LF&SP=10:&-I&+Bg)&-B &+I x &-I  >  3&SP=40:&-I&+Bh)&-B &+I x &-I  >  1&SP=70:&-"
-     "I&+Bi)&-B &+I x &-I  &<=  8&LF&SP=10:&-I&+Bj)&-B &+I x &-I  <  4&SP=40:&-I&+Bk)&-B &+I x &-I  &<=  -"
-     "9&SP=70:&-I&+Bl)&-B &+I x &-I  &>=  3&LF"},
+     "&SP=10:&-I&+Ba)&-B &+I x&-I &<= 7&SP=40:&-I&+Bb)&-B &+I x&-I &>= -2&SP=70:&-I&+Bc)&-B &+I x&-I < -10"
+     "&LF&SP=10:&-I&+Bd)&-B &+I x&-I &<= -4&SP=40:&-I&+Be)&-B &+I x&-I < 4&SP=70:&-I&+Bf)&-B &+I x&-I &<= "
+     "-8&LF&SP=10:&-I&+Bg)&-B &+I x&-I > 3&SP=40:&-I&+Bh)&-B &+I x&-I > 1&SP=70:&-I&+Bi)&-B &+I x&-I &<= 8"
+     "&LF&SP=10:&-I&+Bj)&-B &+I x&-I < 4&SP=40:&-I&+Bk)&-B &+I x&-I &<= -9&SP=70:&-I&+Bl)&-B &+I x&-I &>= "
+     "3&LF"},
     {"0088998999011010",
      "Solve these linear inequations:&LF&SP=5:&+Ba)&-B&+I -2&+Ix&-I& +& 11& >& -7&-I&LF&LF",
-     "&SP=10:&-I&+Ba)&-B &+I x &-I  <  9&LF"},
+     "&SP=10:&-I&+Ba)&-B &+I x&-I < 9&LF"},
     {"0091230456050101",
      "Solve the following nonlinear systems of  2×2  equations:&LF&SP=5:&+Ba)&-B&+I #NES(X}#RWS(R#RW1(&+Ix"
      "&-I& +& &+Iy&-I& =& 6#RW1)#RW2(&+Ix&-I·&+Iy&-I& =& 5#RW2)#RWS)#NES)&-I&SP=43:&+Bb)&-B&+I #NES(X}#RWS"
@@ -342,8 +341,8 @@ const Golden kGolden[] = {
      "b)&-B&+I 9&+Ix&-I^2& -& 1& =& 0&-I&SP=53:&+Bc)&-B&+I 7&+Ix&-I^2& +& 9&+Ix&-I& =& 0&-I&LF&SP=5:&+Bd)&"
      "-B&+I 5&+Ix&-I^2& +& 2& =& 0&-I&SP=29:&+Be)&-B&+I 4&+Ix&-I^2& +& 4& =& 0&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B &+I No real solution.&-I&SP=50:&-I&+Bb)&-B &+Ix&-I = #COC(1#N)(3#COC);    &+Ix&-I"
-     " =   #COC(-1#N)(3#COC)&LF&SP=10:&-I&+Bc)&-B &+Ix&-I = 0;    &+Ix&-I =   #COC(-9#N)(7#COC)&SP=50:&-I&"
-     "+Bd)&-B &+I No real solution.&-I&LF&SP=10:&-I&+Be)&-B &+I No real solution.&-I&LF"},
+     " = #COC(-1#N)(3#COC)&LF&SP=10:&-I&+Bc)&-B &+Ix&-I = 0;    &+Ix&-I = #COC(-9#N)(7#COC)&SP=50:&-I&+Bd)"
+     "&-B &+I No real solution.&-I&LF&SP=10:&-I&+Be)&-B &+I No real solution.&-I&LF"},
     {"0110007001120302",
      "Solve the following incomplete quadratic equations:&LF&SP=5:&+Ba)&-B&+I -8&+Ix&-I^2& -& 6& =& 0&-I&S"
      "P=29:&+Bb)&-B&+I 16&+Ix&-I^2& -& 25& =& 0&-I&SP=53:&+Bc)&-B&+I 7&+Ix&-I^2& +& 7& =& 0&-I&LF&SP=5:&+B"
@@ -353,12 +352,12 @@ const Golden kGolden[] = {
      " 6&+Ix&-I^2& +& 10& =& 0&-I&SP=29:&+Bk)&-B&+I 3&+Ix&-I^2& +& 7& =& 0&-I&SP=53:&+Bl)&-B&+I 9&+Iz&-I^2"
      "& +& 5& =& 0&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B &+I No real solution.&-I&SP=50:&-I&+Bb)&-B &+Ix&-I = #COC(5#N)(4#COC);    &+Ix&-I"
-     " =   #COC(-5#N)(4#COC)&LF&SP=10:&-I&+Bc)&-B &+I No real solution.&-I&SP=50:&-I&+Bd)&-B &+Ix&-I = 0; "
-     "   &+Ix&-I =   #COC(-7#N)(5#COC)&LF&SP=10:&-I&+Be)&-B &+Iz&-I = 0;    &+Iz&-I = #COC(17#N)(4#COC)&SP"
-     "=50:&-I&+Bf)&-B &+Ix&-I = 0;    &+Ix&-I = #COC(2#N)(3#COC)&LF&SP=10:&-I&+Bg)&-B &+I No real solution"
-     ".&-I&SP=50:&-I&+Bh)&-B &+It&-I = 1;    &+It&-I = -1&LF&SP=10:&-I&+Bi)&-B &+I No real solution.&-I&SP"
-     "=50:&-I&+Bj)&-B &+I No real solution.&-I&LF&SP=10:&-I&+Bk)&-B &+I No real solution.&-I&SP=50:&-I&+Bl"
-     ")&-B &+I No real solution.&-I&LF"},
+     " = #COC(-5#N)(4#COC)&LF&SP=10:&-I&+Bc)&-B &+I No real solution.&-I&SP=50:&-I&+Bd)&-B &+Ix&-I = 0;   "
+     " &+Ix&-I = #COC(-7#N)(5#COC)&LF&SP=10:&-I&+Be)&-B &+Iz&-I = 0;    &+Iz&-I = #COC(17#N)(4#COC)&SP=50:"
+     "&-I&+Bf)&-B &+Ix&-I = 0;    &+Ix&-I = #COC(2#N)(3#COC)&LF&SP=10:&-I&+Bg)&-B &+I No real solution.&-I"
+     "&SP=50:&-I&+Bh)&-B &+It&-I = 1;    &+It&-I = -1&LF&SP=10:&-I&+Bi)&-B &+I No real solution.&-I&SP=50:"
+     "&-I&+Bj)&-B &+I No real solution.&-I&LF&SP=10:&-I&+Bk)&-B &+I No real solution.&-I&SP=50:&-I&+Bl)&-B"
+     " &+I No real solution.&-I&LF"},
     {"0118998999011010",
      "Solve the following incomplete quadratic equations:&LF&SP=5:&+Ba)&-B&+I 9&+Ix&-I^2& -& 9& =& 0&-I&LF"
      "&LF",
@@ -416,30 +415,30 @@ const Golden kGolden[] = {
      "7)& =& log& 178&-I&LF&LF",
      "&SP=10:&-I&+Ba)&-B &+Ix =&-I 2&LF"},
     {"0141230456050101",
-     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
-     "SP=5:&+Ba)&-B  cos &+Ix&-I  +  1  -  sin^2 &+Ix&-I  =  cos^2 &+Ix&-I &SP=50:&+Bb)&-B  cos &+Ix&-I  -"
-     "  cos^2 &+Ix&-I  =  sin^2 &+Ix&-I &LF&SP=5:&+Bc)&-B  2sin^2 &+Ix&-I  +  sin &+Ix&-I  =  0&SP=50:&+Bd"
-     ")&-B  sin &+Ix&-I (2  -  sin &+Ix&-I ) =  cos^2 &+Ix&-I &LF&SP=5:&+Be)&-B  2sin 3&+Ix&-I  -  sin^2 &"
-     "+Ix&-I  =  cos^2 &+Ix&-I &LF&LF",
+     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°,& 360°).&LF&SP"
+     "=5:&+Ba)&-B  cos &+Ix&-I + 1 - sin^2 &+Ix&-I = cos^2 &+Ix&-I&SP=50:&+Bb)&-B  cos &+Ix&-I - cos^2 &+I"
+     "x&-I = sin^2 &+Ix&-I&LF&SP=5:&+Bc)&-B  2sin^2 &+Ix&-I + sin &+Ix&-I = 0&SP=50:&+Bd)&-B  sin &+Ix&-I "
+     "(2 - sin &+Ix&-I) = cos^2 &+Ix&-I&LF&SP=5:&+Be)&-B  2sin 3&+Ix&-I - sin^2 &+Ix&-I = cos^2 &+Ix&-I&LF"
+     "&LF",
      "&SP=10:&+Ba)&-B  90°,  270°&SP=50:&+Bb)&-B  0°&LF&SP=10:&+Bc)&-B  0°,  180°,  210°,  330°&SP=50:&+Bd"
      ")&-B  30°,  150°&LF&SP=10:&+Be)&-B  10°,  50°,  130°,  170°,  250°,  290°&LF"},
     {"0140007001120302",
-     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
-     "SP=5:&+Ba)&-B  2cos 3&+Ix&-I  +  #RAD(3#RAD)  =  0&SP=50:&+Bb)&-B  cos 3&+Ix&-I  -  cos^2 &+Ix&-I  ="
-     "  sin^2 &+Ix&-I &LF&SP=5:&+Bc)&-B  sin 2&+Ix&-I  -  cos^2 &+Ix&-I  =  sin^2 &+Ix&-I &SP=50:&+Bd)&-B "
-     " 2cos &+Ix&-I  +  1  =  0&LF&SP=5:&+Be)&-B  sin 3&+Ix&-I  +  cos^2 &+Ix&-I  =  - sin^2 &+Ix&-I &SP=5"
-     "0:&+Bf)&-B  2cos 2&+Ix&-I  +  1  =  0&LF&SP=5:&+Bg)&-B  cos^2 &+Ix&-I  -  sin &+Ix&-I  =  1&SP=50:&+"
-     "Bh)&-B  cos &+Ix&-I  +  sin^2 &+Ix&-I  =  - cos^2 &+Ix&-I &LF&SP=5:&+Bi)&-B  2sin 2&+Ix&-I  -  1  = "
-     " 0&SP=50:&+Bj)&-B  2cos 3&+Ix&-I  +  #RAD(2#RAD)  =  0&LF&SP=5:&+Bk)&-B  2cos &+Ix&-I  +  #RAD(3#RAD"
-     ")  =  0&SP=50:&+Bl)&-B  cos &+Ix&-I  -  cos^2 &+Ix&-I  =  sin^2 &+Ix&-I &LF&LF",
+     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°,& 360°).&LF&SP"
+     "=5:&+Ba)&-B  2cos 3&+Ix&-I + #RAD(3#RAD) = 0&SP=50:&+Bb)&-B  cos 3&+Ix&-I - cos^2 &+Ix&-I = sin^2 &+"
+     "Ix&-I&LF&SP=5:&+Bc)&-B  sin 2&+Ix&-I - cos^2 &+Ix&-I = sin^2 &+Ix&-I&SP=50:&+Bd)&-B  2cos &+Ix&-I + "
+     "1 = 0&LF&SP=5:&+Be)&-B  sin 3&+Ix&-I + cos^2 &+Ix&-I = -sin^2 &+Ix&-I&SP=50:&+Bf)&-B  2cos 2&+Ix&-I "
+     "+ 1 = 0&LF&SP=5:&+Bg)&-B  cos^2 &+Ix&-I - sin &+Ix&-I = 1&SP=50:&+Bh)&-B  cos &+Ix&-I + sin^2 &+Ix&-"
+     "I = -cos^2 &+Ix&-I&LF&SP=5:&+Bi)&-B  2sin 2&+Ix&-I - 1 = 0&SP=50:&+Bj)&-B  2cos 3&+Ix&-I + #RAD(2#RA"
+     "D) = 0&LF&SP=5:&+Bk)&-B  2cos &+Ix&-I + #RAD(3#RAD) = 0&SP=50:&+Bl)&-B  cos &+Ix&-I - cos^2 &+Ix&-I "
+     "= sin^2 &+Ix&-I&LF&LF",
      "&SP=10:&+Ba)&-B  50°,  70°,  170°,  190°,  290°,  310°&SP=50:&+Bb)&-B  0°,  120°,  240°&LF&SP=10:&+B"
      "c)&-B  45°,  225°&SP=50:&+Bd)&-B  120°,  240°&LF&SP=10:&+Be)&-B  90°,  210°,  330°&SP=50:&+Bf)&-B  6"
      "0°,  120°,  240°,  300°&LF&SP=10:&+Bg)&-B  0°,  180°,  270°&SP=50:&+Bh)&-B  180°&LF&SP=10:&+Bi)&-B  "
      "15°,  75°,  195°,  255°&SP=50:&+Bj)&-B  45°,  75°,  165°,  195°,  285°,  315°&LF&SP=10:&+Bk)&-B  150"
      "°,  210°&SP=50:&+Bl)&-B  0°&LF"},
     {"0148998999011010",
-     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
-     "SP=5:&+Ba)&-B  2cos 2&+Ix&-I  +  cos^2 &+Ix&-I  =  - sin^2 &+Ix&-I &LF&LF",
+     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°,& 360°).&LF&SP"
+     "=5:&+Ba)&-B  2cos 2&+Ix&-I + cos^2 &+Ix&-I = -sin^2 &+Ix&-I&LF&LF",
      "&SP=10:&+Ba)&-B  60°,  120°,  240°,  300°&LF"},
 };
 } // namespace

@@ -114,13 +114,13 @@ int ExpectedCount(const GeneratedProblem& p, int maxAmount = 26) { return std::c
 void CheckLinearItem(const std::string& item, const std::string& answer, const std::string& where) {
     const SplitRelation eq = SplitAtRelation(item);
     const SplitRelation ans = SplitAtRelation(
-        // The answer is "x  REL  value" with plain blanks: bring it to the item's marks.
+        // The answer is "x REL value" with plain blanks: bring it to the item's marks.
         [&] {
             std::string a = answer;
             for (const char* r : {"&<=", "&>=", "=", "<", ">"}) {
-                const auto at = a.find(std::string("  ") + r + "  ");
+                const auto at = a.find(std::string(" ") + r + " ");
                 if (at != std::string::npos) {
-                    return a.substr(0, at) + "& " + r + "& " + a.substr(at + 4 + std::char_traits<char>::length(r));
+                    return a.substr(0, at) + "& " + r + "& " + a.substr(at + 2 + std::char_traits<char>::length(r));
                 }
             }
             return a;
@@ -162,7 +162,7 @@ TEST(EcuLinear, IntegerEquationsSolveBySubstitution) {
         for (const auto& a : Answers(p)) {
             EXPECT_EQ(a.find("#COC("), std::string::npos) << p.code << " the solution is whole: " << a;
         }
-        EXPECT_NE(p.solution.find(")&-B&+I x &-I  =  "), std::string::npos) << p.solution;
+        EXPECT_NE(p.solution.find(")&-B&+I x&-I = "), std::string::npos) << p.solution;
     });
 }
 

@@ -33,7 +33,7 @@ const Golden kGolden[] = {
     {"0041115555000303",
      "Find the value of parameter  &+Ih&-I  for which the line  &+Ih&-I&+Ix&-I& -& 2&+Iy&-I& +& 4& =& 0   "
      "passes through the point  &+IP&-I&(6,& & -5).&LF",
-     "&SP=10:&+Ih&-I& =&   #COC(-7#N)(3#COC)&LF"},
+     "&SP=10:&+Ih&-I& =& #COC(-7#N)(3#COC)&LF"},
 };
 } // namespace
 

@@ -26,7 +26,7 @@ const Golden kGolden[] = {
      "Calculate the area between the hyperbola  &+Iy&-I& =& #COC(-7#N)(&+Ix&-I + 1#COC) and the line that "
      "cuts this hyperbola at the points &+Ix&-I& =& 2  and  &+Ix&-I& =& 5.&LF",
      "The line:  &+Iy&-I& =& #COC(7#N)(18#COC)&+Ix&-I - #COC(28#N)(9#COC).&LFArea = #COC(21#N)(4#COC) - 7_"
-     " ln_ 2  &iorden  0&.4 u^2.&LF"},
+     " ln_ 2 &iorden 0&.4 u^2.&LF"},
     {"0040001002000101",
      "The area between the parabola  &+Iy&-I& =& &+Ik& x& -& x^2&-I  and the  &+IX&-I  axis is  #COC(343#N"
      ")(6#COC).  Find the value of the parameter  &+Ik&-I  where  &+Ik&-I& >& 0.&LF",

@@ -40,12 +40,12 @@ const std::string kXIs = "&+Ix&-I& =& ";
 
 // The exact area of the solution, and its rounded value when there is one.
 void CheckAreaAnswer(const GeneratedProblem& p, double numeric) {
-    const std::string exact = Between(p.solution, "Area = ", {"  &iorden", " u^2"});
+    const std::string exact = Between(p.solution, "Area = ", {" &iorden", " u^2"});
     ASSERT_FALSE(exact.empty()) << p.code << " " << p.solution;
     const double value = ReadMarkupAt(exact, 0);
     EXPECT_GT(value, 0) << p.code;
     EXPECT_NEAR(value, numeric, 1e-6 * std::max(1.0, numeric)) << p.code << "\n" << p.statement << "\n" << p.solution;
-    const std::string rounded = Between(p.solution, "&iorden  ", {" u^2"});
+    const std::string rounded = Between(p.solution, "&iorden ", {" u^2"});
     if (!rounded.empty()) {
         EXPECT_NEAR(ReadMarkupAt(rounded, 0), value, 0.0051) << p.code << " " << p.solution;
     }

@@ -10,7 +10,7 @@
 
 namespace {
 const std::string kFunctionHead = " &+Iy =&-I ";
-const std::string kDerivativeHead = " &+Iy&-I_ '_ = ";
+const std::string kDerivativeHead = " &+Iy&-I_ ' = ";
 
 std::string After(const std::string& item, const std::string& head) {
     EXPECT_EQ(item.rfind(head, 0), 0u) << item;
@@ -58,8 +58,8 @@ TEST(Derivatives, LayoutInTwoColumns) {
     EXPECT_NE(p.statement.find("&SP=50:&+Bb)&-B  &+Iy =&-I "), std::string::npos);
     EXPECT_NE(p.statement.find("&LF&SP=5:&+Bc)&-B  &+Iy =&-I "), std::string::npos);
     EXPECT_EQ(p.statement.substr(p.statement.size() - 6), "&LF&LF");
-    EXPECT_EQ(p.solution.rfind("&SP=10:&+Ba)&-B  &+Iy&-I_ '_ = ", 0), 0u);
-    EXPECT_NE(p.solution.find("&SP=55:&+Bb)&-B  &+Iy&-I_ '_ = "), std::string::npos);
+    EXPECT_EQ(p.solution.rfind("&SP=10:&+Ba)&-B  &+Iy&-I_ ' = ", 0), 0u);
+    EXPECT_NE(p.solution.find("&SP=55:&+Bb)&-B  &+Iy&-I_ ' = "), std::string::npos);
     // At most twenty items.
     EXPECT_EQ(LetteredItems(GenerateProblem(hub, "KVOL_MATH_LFD", {2, 0, 321, 26, 1, 1}).statement).size(), 20u);
 }

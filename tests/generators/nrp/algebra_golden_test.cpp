@@ -346,9 +346,9 @@ const Golden kGolden[] = {
      "B(L #T)(101&.31°#SPB)#NES)  ·  #NES(()#SQR(122#SQR)#SPB(L #T)(5&.19443°#SPB)#NES)&LF&SP=5:&+Bc)&-B  "
      "#NES(()2#SQR(2#SQR)#SPB(L #T)(135°#SPB)#NES)  ·  #NES(()#SQR(58#SQR)#SPB(L #T)(23&.1986°#SPB)#NES)&L"
      "F&LF",
-     "&SP=10:&-I&+Ba)&-B 13#SQR(85#SQR)#SPB(L #T)(1&.78947 rad#SPB)  =  -26& +& 117&+I& i&-I&SP=50:&-I&+Bb"
-     ")&-B 4#SQR(793#SQR)#SPB(L #T)(106&.504°#SPB)  =  -32& +& 108&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 4#SQR(29#"
-     "SQR)#SPB(L #T)(158&.199°#SPB)  =  -20& +& 8&+I& i&-I&LF"},
+     "&SP=10:&-I&+Ba)&-B 13#SQR(85#SQR)#SPB(L #T)(1&.78947 rad#SPB) = -26& +& 117&+I& i&-I&SP=50:&-I&+Bb)&"
+     "-B 4#SQR(793#SQR)#SPB(L #T)(106&.504°#SPB) = -32& +& 108&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 4#SQR(29#SQR)"
+     "#SPB(L #T)(158&.199°#SPB) = -20& +& 8&+I& i&-I&LF"},
     {"0365174071070402",
      "Calculate these expressions.&LF&SP=5:&+Ba)&-B  #NES(()7#SPB(L #T)(0°#SPB)#NES)  ·  #NES(()4#SQR(5#SQ"
      "R)#SPB(L #T)(333&.435°#SPB)#NES)&SP=43:&+Bb)&-B  #NES(()15#SQR(26#SQR)#SPB(L #T)(154&.44°#SPB)#NES) "
@@ -359,38 +359,38 @@ const Golden kGolden[] = {
      "°#SPB)#NES)&SP=43:&+Bf)&-B  #NES(()#SQR(13#SQR)#SPB(L #T)(303&.69°#SPB)#NES)  ·  #NES(()#SQR(58#SQR)"
      "#SPB(L #T)(113&.199°#SPB)#NES)&LF&SP=5:&+Bg)&-B  #NES(()#SQR(15826#SQR)#SPB(L #T)(23&.9162°#SPB)#NES"
      ")  :  #NES(()#SQR(82#SQR)#SPB(L #T)(353&.66°#SPB)#NES)&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 28#SQR(5#SQR)#SPB(L #T)(333&.435°#SPB)  =  56& -& 28&+I& i&-I&SP=50:&-I&+Bb)&-B 5"
-     "#SQR(2#SQR)#SPB(L #T)(98&.1301°#SPB)  =  -1& +& 7&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 9#SQR(5#SQR)#SPB(L #"
-     "T)(63&.4349°#SPB)  =  9& +& 18&+I& i&-I&SP=50:&-I&+Bd)&-B #SQR(101#SQR)#SPB(L #T)(1&.47113 rad#SPB) "
-     " =  1& +& 10&+I& i&-I&LF&SP=10:&-I&+Be)&-B #SQR(5617#SQR)#SPB(L #T)(161&.323°#SPB)  =  -71& +& 24&+I"
-     "& i&-I&SP=50:&-I&+Bf)&-B #SQR(754#SQR)#SPB(L #T)(56&.8887°#SPB)  =  15& +& 23&+I& i&-I&LF&SP=10:&-I&"
-     "+Bg)&-B #SQR(193#SQR)#SPB(L #T)(30&.2564°#SPB)  =  12& +& 7&+I& i&-I&LF"},
+     "&SP=10:&-I&+Ba)&-B 28#SQR(5#SQR)#SPB(L #T)(333&.435°#SPB) = 56& -& 28&+I& i&-I&SP=50:&-I&+Bb)&-B 5#S"
+     "QR(2#SQR)#SPB(L #T)(98&.1301°#SPB) = -1& +& 7&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 9#SQR(5#SQR)#SPB(L #T)(6"
+     "3&.4349°#SPB) = 9& +& 18&+I& i&-I&SP=50:&-I&+Bd)&-B #SQR(101#SQR)#SPB(L #T)(1&.47113 rad#SPB) = 1& +"
+     "& 10&+I& i&-I&LF&SP=10:&-I&+Be)&-B #SQR(5617#SQR)#SPB(L #T)(161&.323°#SPB) = -71& +& 24&+I& i&-I&SP="
+     "50:&-I&+Bf)&-B #SQR(754#SQR)#SPB(L #T)(56&.8887°#SPB) = 15& +& 23&+I& i&-I&LF&SP=10:&-I&+Bg)&-B #SQR"
+     "(193#SQR)#SPB(L #T)(30&.2564°#SPB) = 12& +& 7&+I& i&-I&LF"},
     {"0368998999011010",
      "Calculate the following expressions with complex numbers.&LF&SP=5:&+Ba)&-B  #NES(()#SQR(2210#SQR)#SP"
      "B(L #T)(3&.65282 rad#SPB)#NES)  :  #NES(()#SQR(130#SQR)#SPB(L #T)(0&.266252 rad#SPB)#NES)&LF&LF",
-     "&SP=10:&-I&+Ba)&-B #SQR(17#SQR)#SPB(L #T)(3&.38657 rad#SPB)  =  -4& -& &+I& i&-I&LF"},
+     "&SP=10:&-I&+Ba)&-B #SQR(17#SQR)#SPB(L #T)(3&.38657 rad#SPB) = -4& -& &+I& i&-I&LF"},
     {"0370001234030101",
      "Calculate the following expressions.&LF&SP=5:&+Ba)&-B  (4& +& 7&+I& i&-I)^5&SP=29:&+Bb)&-B  (& -& 2&"
      "+I& i&-I)^5&SP=53:&+Bc)&-B  (9& -& 4&+I& i&-I)^3&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 4225#SQR(65#SQR)#SPB(L #T)(5&.25825 rad#SPB)  =  17684& -& 29113&+I& i&-I&LF&SP=1"
-     "0:&-I&+Bb)&-B 32#SPB(L #T)(#COC(3&pi#N)(2#COC) rad#SPB)  =  & -& 32&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 97"
-     "#SQR(97#SQR)#SPB(L #T)(288&.113°#SPB)  =  297& -& 908&+I& i&-I&LF"},
+     "&SP=10:&-I&+Ba)&-B 4225#SQR(65#SQR)#SPB(L #T)(5&.25825 rad#SPB) = 17684& -& 29113&+I& i&-I&LF&SP=10:"
+     "&-I&+Bb)&-B 32#SPB(L #T)(#COC(3&pi#N)(2#COC) rad#SPB) = -32&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 97#SQR(97#"
+     "SQR)#SPB(L #T)(288&.113°#SPB) = 297& -& 908&+I& i&-I&LF"},
     {"0375174071070402",
      "Calculate these expressions involving complex numbers.&LF&SP=5:&+Ba)&-B  (7& +& 8&+I& i&-I)^2&SP=29:"
      "&+Bb)&-B  #NES(()5#SQR(2#SQR)#SPB(L #T)(98&.1301°#SPB)#NES)^4&SP=53:&+Bc)&-B  #NES(()#SQR(73#SQR)#SP"
      "B(L #T)(20&.556°#SPB)#NES)^3&SP=76:&+Bd)&-B  (-2& +& 9&+I& i&-I)^3&LF&SP=5:&+Be)&-B  (8& -& 4&+I& i&"
      "-I)^4&SP=29:&+Bf)&-B  #NES(()2#SQR(10#SQR)#SPB(L #T)(18&.4349°#SPB)#NES)^2&SP=53:&+Bg)&-B  (2& +& 6&"
      "+I& i&-I)^5&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 113#SPB(L #T)(97&.6281°#SPB)  =  -15& +& 112&+I& i&-I&SP=50:&-I&+Bb)&-B 2500#SPB("
-     "L #T)(32&.5204°#SPB)  =  2108& +& 1344&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 73#SQR(73#SQR)#SPB(L #T)(61&.66"
-     "81°#SPB)  =  296& +& 549&+I& i&-I&SP=50:&-I&+Bd)&-B 85#SQR(85#SQR)#SPB(L #T)(307&.586°#SPB)  =  478&"
-     " -& 621&+I& i&-I&LF&SP=10:&-I&+Be)&-B 6400#SPB(L #T)(4&.42859 rad#SPB)  =  -1792& -& 6144&+I& i&-I&S"
-     "P=50:&-I&+Bf)&-B 40#SPB(L #T)(36&.8699°#SPB)  =  32& +& 24&+I& i&-I&LF&SP=10:&-I&+Bg)&-B 3200#SQR(10"
-     "#SQR)#SPB(L #T)(357&.825°#SPB)  =  10112& -& 384&+I& i&-I&LF"},
+     "&SP=10:&-I&+Ba)&-B 113#SPB(L #T)(97&.6281°#SPB) = -15& +& 112&+I& i&-I&SP=50:&-I&+Bb)&-B 2500#SPB(L "
+     "#T)(32&.5204°#SPB) = 2108& +& 1344&+I& i&-I&LF&SP=10:&-I&+Bc)&-B 73#SQR(73#SQR)#SPB(L #T)(61&.6681°#"
+     "SPB) = 296& +& 549&+I& i&-I&SP=50:&-I&+Bd)&-B 85#SQR(85#SQR)#SPB(L #T)(307&.586°#SPB) = 478& -& 621&"
+     "+I& i&-I&LF&SP=10:&-I&+Be)&-B 6400#SPB(L #T)(4&.42859 rad#SPB) = -1792& -& 6144&+I& i&-I&SP=50:&-I&+"
+     "Bf)&-B 40#SPB(L #T)(36&.8699°#SPB) = 32& +& 24&+I& i&-I&LF&SP=10:&-I&+Bg)&-B 3200#SQR(10#SQR)#SPB(L "
+     "#T)(357&.825°#SPB) = 10112& -& 384&+I& i&-I&LF"},
     {"0378998999011010",
      "Calculate the following expressions.&LF&SP=5:&+Ba)&-B  #NES(()#SQR(17#SQR)#SPB(L #T)(3&.38657 rad#SP"
      "B)#NES)^5&LF&LF",
-     "&SP=10:&-I&+Ba)&-B 289#SQR(17#SQR)#SPB(L #T)(4&.36649 rad#SPB)  =  -404& -& 1121&+I& i&-I&LF"},
+     "&SP=10:&-I&+Ba)&-B 289#SQR(17#SQR)#SPB(L #T)(4&.36649 rad#SPB) = -404& -& 1121&+I& i&-I&LF"},
     {"0380001234030101",
      "Calculate these expressions involving complex numbers.&LF&SP=5:&+Ba)&-B  #RAD(#RI(4 #RI)9& +& 4&+I& "
      "i&-I#RAD)&SP=29:&+Bb)&-B  #RAD(#RI(3 #RI)10& +& 10&+I& i&-I#RAD)&SP=53:&+Bc)&-B  #RAD(#RI(3 #RI)#SQR"

@@ -153,16 +153,16 @@ std::string TableCartesianFault(long long modulus, long long degrees, const std:
     return simplest.empty() ? "" : "not in simplest form: " + simplest;
 }
 
-// "polar  =  cartesian" split in two.
+// "polar = cartesian" split in two.
 bool SplitBoth(const std::string& answer, std::string& polar, std::string& cartesian) {
-    const auto at = answer.find("  =  ");
+    const auto at = answer.find(" = ");
     if (at == std::string::npos) return false;
     polar = answer.substr(0, at);
-    cartesian = answer.substr(at + 5);
+    cartesian = answer.substr(at + 3);
     return true;
 }
 
-// Empty when an answer "polar  =  cartesian" is exactly z in both forms.
+// Empty when an answer "polar = cartesian" is exactly z in both forms.
 std::string BothFormsFault(const std::string& answer, const Gaussian& z) {
     std::string polar, cartesian;
     if (!SplitBoth(answer, polar, cartesian)) return "not two forms: " + answer;

@@ -47,12 +47,12 @@ void ExpectSquareFreeRoots(const std::string& answer) {
     }
 }
 
-// "polar  =  cartesian" split in two.
+// "polar = cartesian" split in two.
 std::pair<std::string, std::string> BothForms(const std::string& answer) {
-    const auto at = answer.find("  =  ");
+    const auto at = answer.find(" = ");
     EXPECT_NE(at, std::string::npos) << answer;
     if (at == std::string::npos) return {answer, answer};
-    return {answer.substr(0, at), answer.substr(at + 5)};
+    return {answer.substr(0, at), answer.substr(at + 3)};
 }
 } // namespace
 

@@ -21,8 +21,8 @@ struct ExpandedRows {
     ExpandedRows() {
         for (int k = 0; k < kTrigEquationCount; ++k) {
             const char* equation = kTrigEquationTemplates[static_cast<std::size_t>(k)].equation;
-            scriptBlank[ExpandTrigEquation(equation, kTrigSquareWithScriptBlank)] = k;
-            blank[ExpandTrigEquation(equation, kTrigSquareWithBlank)] = k;
+            scriptBlank[TidyEquationBlanks(ExpandTrigEquation(equation, kTrigSquareWithScriptBlank))] = k;
+            blank[TidyEquationBlanks(ExpandTrigEquation(equation, kTrigSquareWithBlank))] = k;
         }
     }
 };
@@ -63,7 +63,7 @@ TEST(TrigEquations, ListOfTheTrigonometryModule) {
     SweepRoutine("KVOL_MATH_TRI", 4, 2000, [](const GeneratedProblem& p) {
         CheckList(p, " ", kTrigSquareWithScriptBlank);
         EXPECT_EQ(p.statement.rfind("&-I&-BSolve the following equations. Give the &+Ix&-I values within the "
-                                    "interval& [0\u00B0& ,& 360\u00B0).&LF",
+                                    "interval& [0\u00B0,& 360\u00B0).&LF",
                                     0),
                   0u);
         EXPECT_EQ(p.statement.substr(p.statement.size() - 3), "&LF");
@@ -75,7 +75,7 @@ TEST(TrigEquations, ListOfTheEquationsModule) {
     SweepRoutine("KVOL_MATH_ECU", 14, 2000, [](const GeneratedProblem& p) {
         CheckList(p, "  ", kTrigSquareWithBlank);
         EXPECT_EQ(p.statement.rfind("&-I&-BSolve the following equations. Give the &+Ix&-I values within the "
-                                    "interval& [0\u00B0& ,& 360\u00B0).&LF",
+                                    "interval& [0\u00B0,& 360\u00B0).&LF",
                                     0),
                   0u);
         EXPECT_EQ(p.statement.find("^2^"), std::string::npos);

@@ -52,44 +52,44 @@ const Golden kGolden[] = {
      " &+Ix&-I &LF&LF&SP=1:&+Bc)&-B #COC(sin 9&+Ix&-I + sin 3&+Ix&-I #N)(cos 9&+Ix&-I + cos 3&+Ix&-I #COC)"
      " = tan 6&+Ix&-I &LF&LF&SP=1:&+Bd)&-B sin &+Ix&-I + cos &+Ix&-I · cotan &+Ix&-I = cosec &+Ix&-I &LF&L"
      "F&SP=1:&+Be)&-B 1 + 2tan^2^ &+Ix&-I + tan^4^ &+Ix&-I = sec^4^ &+Ix&-I &LF&LF&SP=1:&+Bf)&-B (cos &+It"
-     "&-I + sin &+It&-I )^2  =  1 + sin 2&+It&-I &LF&LF&SP=1:&+Bg)&-B #COC(sin 6&+It&-I + sin 2&+It&-I #N)"
-     "(cos 6&+It&-I + cos 2&+It&-I #COC) = tan 4&+It&-I &LF&LF&SP=1:&+Bh)&-B cotan &+It&-I · sec &+It&-I ="
-     " cosec &+It&-I &LF&LF&SP=1:&+Bi)&-B tan^2#NES(()#COC(&+I&alfa&-I+&+I&beta&-I#N)(2#COC)#NES) = #COC(s"
-     "in &+I&alfa&-I + sin &+I&beta&-I#N)(sin &+I&alfa&-I - sin &+I&beta&-I#COC) · #COC(cos &+I&beta&-I - "
-     "cos &+I&alfa&-I#N)(cos &+I&alfa&-I + cos &+I&beta&-I#COC)&LF&LF&SP=1:&+Bj)&-B #COC(cotan &+Ix&-I + t"
-     "an &+Ix&-I #N)(cotan &+Ix&-I - tan &+Ix&-I #COC) = sec 2&+Ix&-I &LF&LF&SP=1:&+Bk)&-B #COC(cos^2^ &+I"
-     "&alfa&-I #N)(1 - sin &+I&alfa&-I #COC) = 1 + sin &+I&alfa&-I &LF&LF&SP=1:&+Bl)&-B tan &+It&-I = #COC"
-     "(sin 2&+It&-I #N)(1 + cos 2&+It&-I #COC)&LF&LF",
+     "&-I + sin &+It&-I )^2 = 1 + sin 2&+It&-I &LF&LF&SP=1:&+Bg)&-B #COC(sin 6&+It&-I + sin 2&+It&-I #N)(c"
+     "os 6&+It&-I + cos 2&+It&-I #COC) = tan 4&+It&-I &LF&LF&SP=1:&+Bh)&-B cotan &+It&-I · sec &+It&-I = c"
+     "osec &+It&-I &LF&LF&SP=1:&+Bi)&-B tan^2#NES(()#COC(&+I&alfa&-I+&+I&beta&-I#N)(2#COC)#NES) = #COC(sin"
+     " &+I&alfa&-I + sin &+I&beta&-I#N)(sin &+I&alfa&-I - sin &+I&beta&-I#COC) · #COC(cos &+I&beta&-I - co"
+     "s &+I&alfa&-I#N)(cos &+I&alfa&-I + cos &+I&beta&-I#COC)&LF&LF&SP=1:&+Bj)&-B #COC(cotan &+Ix&-I + tan"
+     " &+Ix&-I #N)(cotan &+Ix&-I - tan &+Ix&-I #COC) = sec 2&+Ix&-I &LF&LF&SP=1:&+Bk)&-B #COC(cos^2^ &+I&a"
+     "lfa&-I #N)(1 - sin &+I&alfa&-I #COC) = 1 + sin &+I&alfa&-I &LF&LF&SP=1:&+Bl)&-B tan &+It&-I = #COC(s"
+     "in 2&+It&-I #N)(1 + cos 2&+It&-I #COC)&LF&LF",
      "&SP=10: -&LF"},
     {"0038998999011010",
      "&-I&-BGive a proof of the following trigonometric identities.&LF&SP=1:&+Ba)&-B #COC(cos &+It&-I - co"
      "s 3&+It&-I #N)(sin 3&+It&-I - sin &+It&-I #COC) = tan 2&+It&-I &LF&LF",
      "&SP=10: -&LF"},
     {"0041230456050101",
-     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
-     "SP=5:&+Ba)&-B cos &+Ix&-I  +  1  -  sin^2^ &+Ix&-I  =  cos^2^ &+Ix&-I &SP=50:&+Bb)&-B cos &+Ix&-I  -"
-     "  cos^2^ &+Ix&-I  =  sin^2^ &+Ix&-I &LF&SP=5:&+Bc)&-B 2sin^2^ &+Ix&-I  +  sin &+Ix&-I  =  0&SP=50:&+"
-     "Bd)&-B sin &+Ix&-I (2  -  sin &+Ix&-I ) =  cos^2^ &+Ix&-I &LF&SP=5:&+Be)&-B 2sin 3&+Ix&-I  -  sin^2^"
-     " &+Ix&-I  =  cos^2^ &+Ix&-I &LF",
+     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°,& 360°).&LF&SP"
+     "=5:&+Ba)&-B cos &+Ix&-I + 1 - sin^2^ &+Ix&-I = cos^2^ &+Ix&-I&SP=50:&+Bb)&-B cos &+Ix&-I - cos^2^ &+"
+     "Ix&-I = sin^2^ &+Ix&-I&LF&SP=5:&+Bc)&-B 2sin^2^ &+Ix&-I + sin &+Ix&-I = 0&SP=50:&+Bd)&-B sin &+Ix&-I"
+     " (2 - sin &+Ix&-I) = cos^2^ &+Ix&-I&LF&SP=5:&+Be)&-B 2sin 3&+Ix&-I - sin^2^ &+Ix&-I = cos^2^ &+Ix&-I"
+     "&LF",
      "&SP=10:&+Ba)&-B 90°,  270°&SP=50:&+Bb)&-B 0°&LF&SP=10:&+Bc)&-B 0°,  180°,  210°,  330°&SP=50:&+Bd)&-"
      "B 30°,  150°&LF&SP=10:&+Be)&-B 10°,  50°,  130°,  170°,  250°,  290°&LF"},
     {"0040007001120302",
-     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
-     "SP=5:&+Ba)&-B 2cos 3&+Ix&-I  +  #RAD(3#RAD)  =  0&SP=50:&+Bb)&-B cos 3&+Ix&-I  -  cos^2^ &+Ix&-I  = "
-     " sin^2^ &+Ix&-I &LF&SP=5:&+Bc)&-B sin 2&+Ix&-I  -  cos^2^ &+Ix&-I  =  sin^2^ &+Ix&-I &SP=50:&+Bd)&-B"
-     " 2cos &+Ix&-I  +  1  =  0&LF&SP=5:&+Be)&-B sin 3&+Ix&-I  +  cos^2^ &+Ix&-I  =  - sin^2^ &+Ix&-I &SP="
-     "50:&+Bf)&-B 2cos 2&+Ix&-I  +  1  =  0&LF&SP=5:&+Bg)&-B cos^2^ &+Ix&-I  -  sin &+Ix&-I  =  1&SP=50:&+"
-     "Bh)&-B cos &+Ix&-I  +  sin^2^ &+Ix&-I  =  - cos^2^ &+Ix&-I &LF&SP=5:&+Bi)&-B 2sin 2&+Ix&-I  -  1  = "
-     " 0&SP=50:&+Bj)&-B 2cos 3&+Ix&-I  +  #RAD(2#RAD)  =  0&LF&SP=5:&+Bk)&-B 2cos &+Ix&-I  +  #RAD(3#RAD) "
-     " =  0&SP=50:&+Bl)&-B cos &+Ix&-I  -  cos^2^ &+Ix&-I  =  sin^2^ &+Ix&-I &LF",
+     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°,& 360°).&LF&SP"
+     "=5:&+Ba)&-B 2cos 3&+Ix&-I + #RAD(3#RAD) = 0&SP=50:&+Bb)&-B cos 3&+Ix&-I - cos^2^ &+Ix&-I = sin^2^ &+"
+     "Ix&-I&LF&SP=5:&+Bc)&-B sin 2&+Ix&-I - cos^2^ &+Ix&-I = sin^2^ &+Ix&-I&SP=50:&+Bd)&-B 2cos &+Ix&-I + "
+     "1 = 0&LF&SP=5:&+Be)&-B sin 3&+Ix&-I + cos^2^ &+Ix&-I = -sin^2^ &+Ix&-I&SP=50:&+Bf)&-B 2cos 2&+Ix&-I "
+     "+ 1 = 0&LF&SP=5:&+Bg)&-B cos^2^ &+Ix&-I - sin &+Ix&-I = 1&SP=50:&+Bh)&-B cos &+Ix&-I + sin^2^ &+Ix&-"
+     "I = -cos^2^ &+Ix&-I&LF&SP=5:&+Bi)&-B 2sin 2&+Ix&-I - 1 = 0&SP=50:&+Bj)&-B 2cos 3&+Ix&-I + #RAD(2#RAD"
+     ") = 0&LF&SP=5:&+Bk)&-B 2cos &+Ix&-I + #RAD(3#RAD) = 0&SP=50:&+Bl)&-B cos &+Ix&-I - cos^2^ &+Ix&-I = "
+     "sin^2^ &+Ix&-I&LF",
      "&SP=10:&+Ba)&-B 50°,  70°,  170°,  190°,  290°,  310°&SP=50:&+Bb)&-B 0°,  120°,  240°&LF&SP=10:&+Bc)"
      "&-B 45°,  225°&SP=50:&+Bd)&-B 120°,  240°&LF&SP=10:&+Be)&-B 90°,  210°,  330°&SP=50:&+Bf)&-B 60°,  1"
      "20°,  240°,  300°&LF&SP=10:&+Bg)&-B 0°,  180°,  270°&SP=50:&+Bh)&-B 180°&LF&SP=10:&+Bi)&-B 15°,  75°"
      ",  195°,  255°&SP=50:&+Bj)&-B 45°,  75°,  165°,  195°,  285°,  315°&LF&SP=10:&+Bk)&-B 150°,  210°&SP"
      "=50:&+Bl)&-B 0°&LF"},
     {"0048998999011010",
-     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°& ,& 360°).&LF&"
-     "SP=5:&+Ba)&-B 2cos 2&+Ix&-I  +  cos^2^ &+Ix&-I  =  - sin^2^ &+Ix&-I &LF",
+     "&-I&-BSolve the following equations. Give the &+Ix&-I values within the interval& [0°,& 360°).&LF&SP"
+     "=5:&+Ba)&-B 2cos 2&+Ix&-I + cos^2^ &+Ix&-I = -sin^2^ &+Ix&-I&LF",
      "&SP=10:&+Ba)&-B 60°,  120°,  240°,  300°&LF"},
     {"0051230456050101",
      "Triangle &+IABC&-I, has sides &+Ic&-I = 45& cm,  &+Ib&-I = 70& cm  and angle &+IA&-I = 55°. Calculat"

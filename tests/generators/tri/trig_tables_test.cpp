@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <string>
@@ -181,12 +182,33 @@ TEST(TrigEquationTable, ExpansionOrderAndBothSquareForms) {
     EXPECT_EQ(ExpandTrigEquation("30\u00BA,  150\u00BA", kTrigSquareWithBlank), "30\u00B0,  150\u00B0");
 }
 
+TEST(TrigEquationTable, TidiedBlanks) {
+    // One blank between terms and signs; none inside brackets, after a unary minus or at
+    // the ends; a hard space and a raised blank are left as they are.
+    EXPECT_EQ(TidyEquationBlanks(ExpandTrigEquation("S@  +  C^2@ =  - S^2@", kTrigSquareWithBlank)),
+              "sin &+Ix&-I + cos^2 &+Ix&-I = -sin^2 &+Ix&-I");
+    EXPECT_EQ(TidyEquationBlanks(ExpandTrigEquation("C@(2  -  C@)  =  S^2@", kTrigSquareWithScriptBlank)),
+              "cos &+Ix&-I (2 - cos &+Ix&-I) = sin^2^ &+Ix&-I");
+    EXPECT_EQ(TidyEquationBlanks("  -  2x& +  1  =  0 "), "-2x& + 1 = 0");
+    EXPECT_EQ(TidyEquationBlanks("2C@ -  #RAD(2#RAD)  =  0"), "2C@ - #RAD(2#RAD) = 0");
+    for (const auto& row : kTrigEquationTemplates) {
+        const std::string tidy = TidyEquationBlanks(ExpandTrigEquation(row.equation, kTrigSquareWithBlank));
+        EXPECT_EQ(tidy.find("  "), std::string::npos) << tidy;
+        EXPECT_EQ(tidy.find("= - "), std::string::npos) << tidy;
+        // Only blanks go.
+        std::string a = ExpandTrigEquation(row.equation, kTrigSquareWithBlank), b = tidy;
+        a.erase(std::remove(a.begin(), a.end(), ' '), a.end());
+        b.erase(std::remove(b.begin(), b.end(), ' '), b.end());
+        EXPECT_EQ(a, b);
+    }
+}
+
 TEST(TrigIdentityTable, ExpansionWithLetters) {
     // (cos x + sin x)² = 1 + sin 2x, read as the table's short-hand says.
     EXPECT_EQ(ExpandTrigIdentity(kTrigIdentityTemplates[0], "x", "a", "b"),
-              "(cos &+Ix&-I + sin &+Ix&-I )^2  =  1 + sin 2&+Ix&-I ");
+              "(cos &+Ix&-I + sin &+Ix&-I )^2 = 1 + sin 2&+Ix&-I ");
     EXPECT_EQ(ExpandTrigIdentity(kTrigIdentityTemplates[15], "t", "&alfa", "&beta"),
-              "cos(&+I&alfa&-I + &+I&beta&-I) · cos(&+I&alfa&-I - &+I&beta&-I)  =  cos^2&+I&alfa&-I - "
+              "cos(&+I&alfa&-I + &+I&beta&-I) · cos(&+I&alfa&-I - &+I&beta&-I) = cos^2&+I&alfa&-I - "
               "sin^2&+I&beta&-I");
     EXPECT_EQ(ExpandTrigIdentity("Z^3@ K4@", "&theta", "a", "b"), "sin^3^ &+I&theta&-I  cos 4&+I&theta&-I ");
     EXPECT_EQ(ExpandTrigIdentity("#COC(Z(45\u00BA +@)#N)(K45\u00BA · K@#COC)", "x", "a", "b"),

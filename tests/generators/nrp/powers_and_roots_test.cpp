@@ -233,7 +233,7 @@ TEST(SquareRootRationalisation, EveryTypeGivesReducedAnswers) {
     GeneratorWorkspace ws;
     ws.stream.Draw(-1);
     int made[7] = {};
-    for (int seed = 0; seed < SweepSeedCount(6000); ++seed) {
+    for (int seed = 0; seed < 6000; ++seed) {
         ws.stream.SeedStream(seed);
         const int type = 1 + seed % 6;
         const ItemTexts item = DrawSquareRootRationalisation(ws, type);

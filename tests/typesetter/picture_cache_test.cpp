@@ -146,13 +146,20 @@ TEST(PictureCache, APictureShownByAHundredProblemsIsDecodedOnceAndStoredOnce) {
     EXPECT_EQ(hundred, once);
 }
 
+namespace {
+// A state that reads its pictures with Qt from dir, where an 80 by 40 figure "fig.png" lies.
+void UseFigureFolder(TypesetterState& st, const QTemporaryDir& dir) {
+    WriteFigure(dir.filePath("fig.png"), 80, 40);
+    UseQtPictures(st);
+    st.PictureFolder = dir.path().toStdString();
+}
+} // namespace
+
 TEST(PictureCache, SurfacesOfOneStateShareItsPictures) {
     EnsureGuiApplication();
     QTemporaryDir dir;
-    WriteFigure(dir.filePath("fig.png"), 80, 40);
     TypesetterState st;
-    UseQtPictures(st);
-    st.PictureFolder = dir.path().toStdString();
+    UseFigureFolder(st, dir);
     for (int page = 0; page < 3; ++page) {
         QImage image(794, 1123, QImage::Format_RGB32);
         image.fill(Qt::white);
@@ -176,10 +183,8 @@ TEST(PictureCache, SurfacesOfOneStateShareItsPictures) {
 TEST(PictureCache, AFigureIsLookedForOnceUntilTheStateForgetsWhereItWas) {
     EnsureGuiApplication();
     QTemporaryDir dir;
-    WriteFigure(dir.filePath("fig.png"), 80, 40);
     TypesetterState st;
-    UseQtPictures(st);
-    st.PictureFolder = dir.path().toStdString();
+    UseFigureFolder(st, dir);
     st.TempPictureFolder.clear();
     int asked = 0;
     const auto loader = st.LoadPicture;
